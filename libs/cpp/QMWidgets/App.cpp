@@ -1,0 +1,148 @@
+#include "App.h"
+
+#include "BlenderWidget.h"
+#include "BuildDate.h"
+#include "WindowsVersionName.h"
+#include <QMWidgets/MakerSite.h>
+
+#include <QEvent>
+#include <QScreen>
+#include <QSettings>
+#include <QSysInfo>
+
+namespace QMWidgets
+{
+
+namespace
+{
+
+void dropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+QString settingsKey(const QString& key)
+{
+    return QCoreApplication::applicationName() + QLatin1Char('/') + key;
+}
+
+} // namespace
+
+App::App(int& argc, char** argv, const QString& organization, const QString& application)
+    : QApplication(argc, argv)
+{
+    setOrganizationName(organization);
+    setApplicationName(application);
+    // Before the home folder is made, which is itself a trace of a run.
+    m_firstRun = hasNoFolders();
+    m_usesText =
+        tr("<H3>This Application Uses:</H3>") +
+        QStringLiteral("Qt 5 Framework<BR><A HREF=\"%1\">%1</A><BR>").arg(MakerSite::toolkitSite());
+    appHomeFolder(true);
+    m_settings = new QSettings(organization, application, this);
+    m_resourcesPath = QStringLiteral("Resources/");
+    m_directDistribution = true;
+    qInstallMessageHandler(dropMessage);
+}
+
+App* App::app()
+{
+    return qobject_cast<App*>(QCoreApplication::instance());
+}
+
+QVariant App::settingsValue(const QString& key, const QVariant& defaultValue) const
+{
+    return m_settings->value(settingsKey(key), defaultValue);
+}
+
+void App::setSettingsValue(const QString& key, const QVariant& value)
+{
+    m_settings->setValue(settingsKey(key), value);
+}
+
+QString App::language()
+{
+    return m_language;
+}
+
+QDate App::buildDate() const
+{
+    return parseBuildDate(QStringLiteral(__DATE__));
+}
+
+void App::setMainWidget(QWidget* widget)
+{
+    delete m_blender;
+    m_mainWidget = widget;
+    if (widget) {
+        m_blender = new BlenderWidget(widget);
+        m_blender->setObjectName(QStringLiteral("MainWidgetBlender"));
+        m_blender->hide();
+    }
+}
+
+QString App::systemName() const
+{
+#ifdef Q_OS_WIN
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    return windowsVersionName(int(QSysInfo::windowsVersion()));
+    QT_WARNING_POP
+#else
+    return QSysInfo::prettyProductName();
+#endif
+}
+
+bool App::isSmallScreen()
+{
+    const QScreen* screen = primaryScreen();
+    return screen && isSmallDesktop(screen->virtualSize());
+}
+
+bool App::isSmallDesktop(const QSize& desktop)
+{
+    return desktop.width() - 1 < 479 || desktop.height() - 1 < 479;
+}
+
+double App::devicePixelRatio()
+{
+    const QScreen* screen = primaryScreen();
+    return screen ? screen->devicePixelRatio() : 1.0;
+}
+
+bool App::notify(QObject* receiver, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ApplicationActivate:
+        emit applicationActivated();
+        break;
+    case QEvent::ApplicationDeactivate:
+        emit applicationDeactivated();
+        break;
+    case QEvent::MouseButtonPress:
+        emit mouseButtonPress();
+        break;
+    default:
+        break;
+    }
+    return QApplication::notify(receiver, event);
+}
+
+void App::slotFocusChanged(QWidget*, QWidget*)
+{
+    slotSetBlendMainWidget(activeWindow() != m_mainWidget);
+}
+
+void App::slotSetBlendMainWidget(bool on)
+{
+    // The veil is the main window's child, so it is there only together with it.
+    if (!m_blender) {
+        return;
+    }
+    if (!on) {
+        m_blender->hide();
+        return;
+    }
+    m_blender->setFixedSize(m_mainWidget->size());
+    m_blender->show();
+    m_blender->raise();
+}
+
+} // namespace QMWidgets

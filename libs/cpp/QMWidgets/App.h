@@ -1,0 +1,136 @@
+#pragma once
+
+#include <QApplication>
+#include <QDate>
+#include <QPointer>
+#include <QString>
+#include <QVariant>
+#include <QWidget>
+
+class QSettings;
+
+namespace QMWidgets
+{
+
+class BlenderWidget;
+
+/// The application object: settings, folders, web addresses and the veil over the main window.
+/// It knows nothing of photos. The constructor drops all messages of the toolkit from then on; a
+/// developer can log them with installProtocolHandler().
+///
+/// Thread: the interface thread.
+class App : public QApplication
+{
+    Q_OBJECT
+
+public:
+    /// Sets the identity, looks whether this is the first run and makes the application's home
+    /// folder. `argc` has to outlive the object.
+    App(int& argc, char** argv, const QString& organization, const QString& application);
+
+    /// The running application, or null if the application object is of another class.
+    static App* app();
+
+    /// Settings, kept under organization and application name in a group named like the
+    /// application. A value is written through when it changes.
+    QVariant settingsValue(const QString& key, const QVariant& defaultValue) const;
+    void setSettingsValue(const QString& key, const QVariant& value);
+
+    /// Folders. With `create` a missing folder is made; whether that worked is not told.
+    /// The home folder and those under the user's documents, pictures, music and movies end with
+    /// a slash; the data and the cache folder do not.
+    static QString appHomeFolder(bool create);
+    static QString appDataFolder(bool create);
+    static QString appCacheFolder(bool create);
+    static QString appDocumentsFolder(bool create);
+    static QString defaultOutputFolder(bool create);
+    static QString appMusicFolder(bool create);
+    static QString appMoviesFolder(bool create);
+    /// True if none of the folders above exists, that is, no earlier run has left a trace.
+    static bool hasNoFolders();
+
+    /// Copies a file or a resource into `folder`, which is made if it is missing, under `newName`,
+    /// or under its own name if that is empty. A file that exists counts as done and stays as it
+    /// is. Errors: false if the source can't be read or the target can't be written; no part of a
+    /// file is left behind.
+    static bool copyFileToFolder(const QString& source, const QString& folder,
+                                 const QString& newName);
+
+    /// Language code of the interface, such as "en".
+    QString language();
+    /// True if hasNoFolders() was true when the application started.
+    bool firstRun() const { return m_firstRun; }
+    /// True for a build that a store distributes; this program is given out directly.
+    bool isStoreBuild() const { return !m_directDistribution; }
+    /// The day this library was compiled.
+    QDate buildDate() const;
+    /// Folder of the files that are shipped beside the program, relative to the working directory,
+    /// with a slash at its end.
+    QString resourcesPath() const { return m_resourcesPath; }
+    /// The application's page on the maker's site, opened by slotGoToPromotedApp().
+    void setPromotedAppUrl(const QString& url) { m_productPage = url; }
+    /// Forms the social and support addresses from the application's name.
+    void setupWebLinks();
+    QString facebookUrl() const { return m_facebookUrl; }
+    QString twitterUrl() const { return m_twitterUrl; }
+    QString vkontakteUrl() const { return m_vkontakteUrl; }
+    /// Rich text that names the toolkit, for the about box.
+    QString usesText() const { return m_usesText; }
+
+    /// Sets the main window, which stays the caller's, and gives it a hidden veil. A veil given to
+    /// an earlier main window goes. With null there is no main window.
+    void setMainWidget(QWidget* widget);
+    QWidget* mainWidget() const { return m_mainWidget; }
+
+    /// Name and version of the operating system, to be read by people.
+    QString systemName() const;
+    /// True if the desktop is so small that rows of buttons have to become columns.
+    static bool isSmallScreen();
+    /// Units: desktop size in logical pixels.
+    static bool isSmallDesktop(const QSize& desktop);
+    /// Device pixels for each logical pixel of the primary screen; may change while running, so
+    /// don't keep it. 1 without a screen. Needs no App, any QGuiApplication will do.
+    static double devicePixelRatio();
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+signals:
+    /// A mouse button went down anywhere in the application; comes once for each object that the
+    /// press is handed to.
+    void mouseButtonPress();
+    void applicationActivated();
+    void applicationDeactivated();
+    /// The dock's icon was clicked, on desktops that tell.
+    void dockClicked();
+
+public slots:
+    /// Veils the main window unless it is the active one.
+    void slotFocusChanged(QWidget* old, QWidget* now);
+    /// Opens a mail to the maker's support that names application, system and language.
+    void slotContactUs();
+    /// Opens a ready-made mail with no addressee that recommends the application.
+    void slotTellFriend();
+    void slotShowMoreApps();
+    void slotRateApp();
+    void slotSupportPage();
+    void slotGoToPromotedApp();
+    /// Shows or hides the veil over the main window; without a main window nothing happens.
+    void slotSetBlendMainWidget(bool on);
+
+private:
+    QSettings* m_settings = nullptr;
+    QString m_language = QStringLiteral("en");
+    QString m_productPage;
+    QString m_facebookUrl;
+    QString m_twitterUrl;
+    QString m_vkontakteUrl;
+    QPointer<QWidget> m_mainWidget;
+    QPointer<BlenderWidget> m_blender;
+    QString m_supportUrl;
+    QString m_resourcesPath;
+    QString m_usesText;
+    bool m_firstRun = false;
+    bool m_directDistribution = false;
+};
+
+} // namespace QMWidgets

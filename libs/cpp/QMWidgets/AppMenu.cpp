@@ -1,0 +1,54 @@
+#include "AppMenu.h"
+
+#include "App.h"
+
+namespace QMWidgets
+{
+
+namespace
+{
+
+struct Entry {
+    const char* text;
+    const char* icon;
+    void (App::*slot)();
+};
+
+const Entry kRateEntry = {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Rate this App"), ":/star.png",
+                          &App::slotRateApp};
+
+/// The entries above the separator, from top to bottom.
+const Entry kEntries[] = {
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "More Apps"), ":/moreappsicon.png",
+     &App::slotShowMoreApps},
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Contacts Us"), ":/feedback.png", // sic
+     &App::slotContactUs},
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Support Page"), ":/webpage.png",
+     &App::slotSupportPage},
+};
+
+void addEntry(QMenu* menu, const Entry& entry, App* app)
+{
+    QAction* action = menu->addAction(QIcon(QLatin1String(entry.icon)), AppMenu::tr(entry.text));
+    QObject::connect(action, &QAction::triggered, app, entry.slot);
+}
+
+} // namespace
+
+AppMenu::AppMenu(QWidget* parent)
+    : QMenu(parent)
+{
+    App* app = App::app();
+    // Only a store has a page to rate the application on.
+    if (app->isStoreBuild()) {
+        addEntry(this, kRateEntry, app);
+    }
+    for (const Entry& entry : kEntries) {
+        addEntry(this, entry, app);
+    }
+    addSeparator();
+    QAction* quit = addAction(tr("Quit"));
+    connect(quit, &QAction::triggered, this, &AppMenu::quitPressed);
+}
+
+} // namespace QMWidgets

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QFileDialog>
+#include <QStringList>
+
+namespace QMWidgets
+{
+
+/// The file dialogs of the program.
+class FileDialog
+{
+public:
+    /// Lets the user choose several existing files, in a modal dialog. An empty `folder` begins
+    /// where the toolkit likes, an empty `filter` shows all files. `selectedFilter`, if given,
+    /// names the filter to begin with and receives the one chosen. Returns the paths, or an empty
+    /// list if the user cancelled.
+    static QStringList getOpenFileNames(QWidget* parent, const QString& caption,
+                                        const QString& folder = QString(),
+                                        const QString& filter = QString(),
+                                        QString* selectedFilter = nullptr,
+                                        QFileDialog::Options options = QFileDialog::Options());
+};
+
+} // namespace QMWidgets

@@ -1,0 +1,51 @@
+#include "MovieLabel.h"
+
+#include <QTimer>
+
+namespace QMWidgets
+{
+
+MovieLabel::MovieLabel(const QString& fileName, QWidget* parent)
+    : QLabel(parent),
+      m_movie(fileName, QByteArray())
+{
+    setObjectName(QStringLiteral("MovieLabel"));
+    setAccessibleName(tr("Animation"));
+    setAlignment(Qt::AlignCenter);
+    setMovie(&m_movie);
+}
+
+void MovieLabel::setSpeed(int percent)
+{
+    m_movie.setSpeed(percent);
+}
+
+void MovieLabel::setDuration(int milliseconds)
+{
+    m_duration = milliseconds;
+}
+
+void MovieLabel::showEvent(QShowEvent* event)
+{
+    m_movie.start();
+    if (m_duration > 0) {
+        QTimer::singleShot(m_duration, &m_movie, &QMovie::stop);
+    }
+    QLabel::showEvent(event);
+}
+
+void MovieLabel::hideEvent(QHideEvent* event)
+{
+    m_movie.stop();
+    QLabel::hideEvent(event);
+}
+
+void MovieLabel::resizeEvent(QResizeEvent* event)
+{
+    constexpr float kMargin = 1.1f;
+    m_movie.setScaledSize(
+        QSize(qRound(float(width()) / kMargin), qRound(float(height()) / kMargin)));
+    QLabel::resizeEvent(event);
+}
+
+} // namespace QMWidgets

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLabel>
+#include <QMovie>
+
+namespace QMWidgets
+{
+
+/// Plays an animated picture while it is shown, a little smaller than the label so that a margin
+/// stays. A file that can't be read shows nothing.
+class MovieLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit MovieLabel(const QString& fileName, QWidget* parent = nullptr);
+
+    /// Units: percent of the picture's own speed.
+    void setSpeed(int percent);
+    /// How long to play after each show, in milliseconds; the last frame then stays. Zero or less
+    /// plays for as long as the label is shown.
+    void setDuration(int milliseconds);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QMovie m_movie;
+    int m_duration = -1;
+};
+
+} // namespace QMWidgets

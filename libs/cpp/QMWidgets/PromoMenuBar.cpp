@@ -1,0 +1,138 @@
+#include "PromoMenuBar.h"
+
+#include "App.h"
+#include "AppButton.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QSignalMapper>
+#include <QUrl>
+
+namespace QMWidgets
+{
+
+namespace
+{
+
+template <class Button>
+Button* imageButton(const QString& objectName, const QString& toolTip, QWidget* parent)
+{
+    auto* button = new Button(parent);
+    button->setObjectName(objectName);
+    button->setFlat(true);
+    button->setToolTip(toolTip);
+    // The button is all picture; this is what a screen reader has to go by.
+    button->setAccessibleName(toolTip);
+    button->setFixedSize(60, 32);
+    return button;
+}
+
+} // namespace
+
+PromoMenuBar::PromoMenuBar(QWidget* parent)
+    : QFrame(parent)
+{
+    setObjectName(QStringLiteral("MenuBar"));
+    m_urlMapper = new QSignalMapper(this);
+    connect(m_urlMapper, &QSignalMapper::mappedString, this, &PromoMenuBar::slotCallUrl);
+
+    m_introButton =
+        imageButton<QPushButton>(QStringLiteral("IntroButton"), tr("Introduction"), this);
+    m_moreButton = imageButton<QPushButton>(QStringLiteral("MoreButton"), tr("More"), this);
+    m_rateButton = imageButton<QPushButton>(QStringLiteral("RateButton"), tr("Rate App"), this);
+    m_moreAppsButton =
+        imageButton<QPushButton>(QStringLiteral("MoreAppsButton"), tr("More Apps"), this);
+    m_shareButton = imageButton<QPushButton>(QStringLiteral("ShareButton"), tr("Share"), this);
+    m_joinButton = imageButton<QPushButton>(QStringLiteral("JoinButton"), tr("Join Us"), this);
+    m_appButton = imageButton<AppButton>(QStringLiteral("AppButton"), tr("App Menu"), this);
+
+    m_moreMenu = new QMenu(m_moreButton);
+    m_moreButton->setMenu(m_moreMenu);
+
+    m_moreAppsButton->hide();
+    m_rateButton->hide();
+    // Each of these is shown together with the dialog it opens.
+    m_introButton->hide();
+    m_shareButton->hide();
+    m_joinButton->hide();
+
+    App* app = App::app();
+    connect(m_appButton, &AppButton::quitPressed, app, &App::quit);
+    connect(m_rateButton, &QPushButton::clicked, app, &App::slotRateApp);
+    connect(m_moreAppsButton, &QPushButton::clicked, app, &App::slotShowMoreApps);
+
+    layOut();
+}
+
+void PromoMenuBar::layOut()
+{
+    m_centerBox = new QHBoxLayout;
+    m_centerBox->setContentsMargins(0, 0, 0, 0);
+    m_centerBox->setSpacing(0);
+    m_rightBox = new QHBoxLayout;
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(5, 5, 5, 5);
+    row->setSpacing(0);
+    row->addWidget(m_moreButton);
+    row->addStretch(1);
+    row->addLayout(m_centerBox);
+    row->addStretch(1);
+    row->addLayout(m_rightBox);
+    row->addWidget(m_introButton);
+    row->addWidget(m_shareButton);
+    row->addWidget(m_joinButton);
+    row->addWidget(m_moreAppsButton);
+    row->addWidget(m_rateButton);
+    row->addWidget(m_appButton);
+}
+
+void PromoMenuBar::addCatalogueEntry(const QPixmap& icon, const QString& text, const QString& url)
+{
+    if (url.isEmpty()) {
+        return;
+    }
+    auto* action = new QAction(QIcon(icon), text, this);
+    connect(action, &QAction::triggered, m_urlMapper, qOverload<>(&QSignalMapper::map));
+    m_urlMapper->setMapping(action, url);
+    m_moreMenu->addAction(action);
+}
+
+void PromoMenuBar::addCatalogueSeparator()
+{
+    m_moreMenu->addSeparator();
+}
+
+void PromoMenuBar::addMoreAppsEntry()
+{
+    m_moreMenu->addSeparator();
+    QAction* action =
+        m_moreMenu->addAction(QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"));
+    connect(action, &QAction::triggered, App::app(), &App::slotShowMoreApps);
+    m_moreMenu->addSeparator();
+}
+
+void PromoMenuBar::addRightWidget(QWidget* widget)
+{
+    m_rightBox->addWidget(widget);
+}
+
+void PromoMenuBar::addCenterWidget(QWidget* widget)
+{
+    m_centerBox->addWidget(widget);
+}
+
+void PromoMenuBar::setMoreAppsButtonHidden()
+{
+    m_moreAppsButton->hide();
+}
+
+void PromoMenuBar::slotCallUrl(const QString& url)
+{
+    // A desktop without a browser opens nothing, and shows nothing of it.
+    static_cast<void>(QDesktopServices::openUrl(QUrl(url)));
+}
+
+} // namespace QMWidgets

@@ -59,99 +59,91 @@ class tst_AppFolders : public QObject
     Q_OBJECT
 
 private slots:
-    void startsInAFreshHome();
-    void eachFolderCountsAsAnEarlierRun_data();
-    void eachFolderCountsAsAnEarlierRun();
-    void foldersBearOrganizationAndApplication();
-    void copiesAFile();
-    void leavesAnExistingTarget();
-    void leavesNothingAfterAFailure();
+    void startsInAFreshHome()
+    {
+        QVERIFY(App::app()->firstRun());
+        QVERIFY(QFileInfo(App::appHomeFolder(false)).isDir());
+        QVERIFY(!App::hasNoFolders());
+    }
+
+    void eachFolderCountsAsAnEarlierRun_data()
+    {
+        QTest::addColumn<Folder>("folder");
+        QTest::newRow("home") << Folder(App::appHomeFolder);
+        QTest::newRow("data") << Folder(App::appDataFolder);
+        QTest::newRow("cache") << Folder(App::appCacheFolder);
+        QTest::newRow("documents") << Folder(App::appDocumentsFolder);
+        QTest::newRow("pictures") << Folder(App::defaultOutputFolder);
+        QTest::newRow("music") << Folder(App::appMusicFolder);
+        QTest::newRow("movies") << Folder(App::appMoviesFolder);
+    }
+
+    void eachFolderCountsAsAnEarlierRun()
+    {
+        QFETCH(Folder, folder);
+        const OtherHome home;
+        QVERIFY(App::hasNoFolders());
+        const QString path = folder(false);
+        QVERIFY2(path.startsWith(home.path()), qPrintable(path));
+        QVERIFY(!QFileInfo::exists(path));
+        QCOMPARE(folder(true), path);
+        QVERIFY(QFileInfo(path).isDir());
+        QVERIFY(!App::hasNoFolders());
+    }
+
+    void foldersBearOrganizationAndApplication()
+    {
+        const OtherHome home;
+        QCOMPARE(App::appHomeFolder(false), home.path() + QStringLiteral("/Tessarin/"));
+        QCOMPARE(App::defaultOutputFolder(false),
+                 home.path() + QStringLiteral("/Pictures/Corvane/Tessarin/"));
+        QCOMPARE(App::appDataFolder(false), home.path() + QStringLiteral("/data/Corvane/Tessarin"));
+    }
+
+    void copiesAFile()
+    {
+        const QTemporaryDir dir;
+        const QString source = dir.filePath(QStringLiteral("source.bin"));
+        const QByteArray content("\0a\r\nb\xff", 6);
+        write(source, content);
+        const QString folder = dir.filePath(QStringLiteral("new/deep"));
+        QVERIFY(App::copyFileToFolder(source, folder, QString()));
+        QCOMPARE(read(folder + QStringLiteral("/source.bin")), content);
+        QVERIFY(App::copyFileToFolder(source, folder, QStringLiteral("other.bin")));
+        QCOMPARE(read(folder + QStringLiteral("/other.bin")), content);
+        QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).count(), 2);
+    }
+
+    void leavesAnExistingTarget()
+    {
+        const QTemporaryDir dir;
+        const QString source = dir.filePath(QStringLiteral("new"));
+        const QString target = dir.filePath(QStringLiteral("old"));
+        write(source, "new");
+        write(target, "old");
+        QVERIFY(App::copyFileToFolder(source, dir.path(), QStringLiteral("old")));
+        QCOMPARE(read(target), QByteArray("old"));
+        // An existing target is enough, whatever has become of the source.
+        QVERIFY(App::copyFileToFolder(dir.filePath(QStringLiteral("gone")), dir.path(),
+                                      QStringLiteral("old")));
+    }
+
+    void leavesNothingAfterAFailure()
+    {
+        const QTemporaryDir dir;
+        const QString folder = dir.filePath(QStringLiteral("folder"));
+        QVERIFY(!App::copyFileToFolder(dir.filePath(QStringLiteral("gone")), folder, QString()));
+        QVERIFY(!App::copyFileToFolder(dir.path(), folder, QStringLiteral("name")));
+        QVERIFY(QDir(folder).isEmpty());
+
+        const QString file = dir.filePath(QStringLiteral("file"));
+        write(file, "content");
+        // A file in the place of the folder can't be written into, not even by the superuser.
+        QVERIFY(!App::copyFileToFolder(file, file, QStringLiteral("name")));
+        QCOMPARE(read(file), QByteArray("content"));
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).count(), 1);
+    }
 };
-
-void tst_AppFolders::startsInAFreshHome()
-{
-    QVERIFY(App::app()->firstRun());
-    QVERIFY(QFileInfo(App::appHomeFolder(false)).isDir());
-    QVERIFY(!App::hasNoFolders());
-}
-
-void tst_AppFolders::eachFolderCountsAsAnEarlierRun_data()
-{
-    QTest::addColumn<Folder>("folder");
-    QTest::newRow("home") << Folder(App::appHomeFolder);
-    QTest::newRow("data") << Folder(App::appDataFolder);
-    QTest::newRow("cache") << Folder(App::appCacheFolder);
-    QTest::newRow("documents") << Folder(App::appDocumentsFolder);
-    QTest::newRow("pictures") << Folder(App::defaultOutputFolder);
-    QTest::newRow("music") << Folder(App::appMusicFolder);
-    QTest::newRow("movies") << Folder(App::appMoviesFolder);
-}
-
-void tst_AppFolders::eachFolderCountsAsAnEarlierRun()
-{
-    QFETCH(Folder, folder);
-    const OtherHome home;
-    QVERIFY(App::hasNoFolders());
-    const QString path = folder(false);
-    QVERIFY2(path.startsWith(home.path()), qPrintable(path));
-    QVERIFY(!QFileInfo::exists(path));
-    QCOMPARE(folder(true), path);
-    QVERIFY(QFileInfo(path).isDir());
-    QVERIFY(!App::hasNoFolders());
-}
-
-void tst_AppFolders::foldersBearOrganizationAndApplication()
-{
-    const OtherHome home;
-    QCOMPARE(App::appHomeFolder(false), home.path() + QStringLiteral("/Tessarin/"));
-    QCOMPARE(App::defaultOutputFolder(false),
-             home.path() + QStringLiteral("/Pictures/Corvane/Tessarin/"));
-    QCOMPARE(App::appDataFolder(false), home.path() + QStringLiteral("/data/Corvane/Tessarin"));
-}
-
-void tst_AppFolders::copiesAFile()
-{
-    const QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("source.bin"));
-    const QByteArray content("\0a\r\nb\xff", 6);
-    write(source, content);
-    const QString folder = dir.filePath(QStringLiteral("new/deep"));
-    QVERIFY(App::copyFileToFolder(source, folder, QString()));
-    QCOMPARE(read(folder + QStringLiteral("/source.bin")), content);
-    QVERIFY(App::copyFileToFolder(source, folder, QStringLiteral("other.bin")));
-    QCOMPARE(read(folder + QStringLiteral("/other.bin")), content);
-    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).count(), 2);
-}
-
-void tst_AppFolders::leavesAnExistingTarget()
-{
-    const QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("new"));
-    const QString target = dir.filePath(QStringLiteral("old"));
-    write(source, "new");
-    write(target, "old");
-    QVERIFY(App::copyFileToFolder(source, dir.path(), QStringLiteral("old")));
-    QCOMPARE(read(target), QByteArray("old"));
-    // An existing target is enough, whatever has become of the source.
-    QVERIFY(App::copyFileToFolder(dir.filePath(QStringLiteral("gone")), dir.path(),
-                                  QStringLiteral("old")));
-}
-
-void tst_AppFolders::leavesNothingAfterAFailure()
-{
-    const QTemporaryDir dir;
-    const QString folder = dir.filePath(QStringLiteral("folder"));
-    QVERIFY(!App::copyFileToFolder(dir.filePath(QStringLiteral("gone")), folder, QString()));
-    QVERIFY(!App::copyFileToFolder(dir.path(), folder, QStringLiteral("name")));
-    QVERIFY(QDir(folder).isEmpty());
-
-    const QString file = dir.filePath(QStringLiteral("file"));
-    write(file, "content");
-    // A file in the place of the folder can't be written into, not even by the superuser.
-    QVERIFY(!App::copyFileToFolder(file, file, QStringLiteral("name")));
-    QCOMPARE(read(file), QByteArray("content"));
-    QCOMPARE(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).count(), 1);
-}
 
 TESSARIN_TEST(tst_AppFolders);
 #include "tst_AppFolders.moc"

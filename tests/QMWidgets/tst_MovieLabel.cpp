@@ -24,69 +24,54 @@ class tst_MovieLabel : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void playsWhileShown();
-    void stopsAfterItsDuration();
-    void leavesAMargin();
-    void missingFileShowsNothing();
+    void initTestCase()
+    {
+        m_file = m_dir.filePath(QStringLiteral("movie.gif"));
+        QFile file(m_file);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(kMovie, sizeof kMovie - 1);
+    }
+
+    void playsWhileShown()
+    {
+        for (const int duration : {-1, 0}) {
+            MovieLabel label(m_file);
+            label.setDuration(duration);
+            QSignalSpy frames(label.movie(), &QMovie::frameChanged);
+            QCOMPARE(label.movie()->state(), QMovie::NotRunning);
+            label.show();
+            QTRY_VERIFY(frames.count() > 6);
+            QCOMPARE(label.movie()->state(), QMovie::Running);
+            label.hide();
+            QCOMPARE(label.movie()->state(), QMovie::NotRunning);
+        }
+    }
+
+    void stopsAfterItsDuration()
+    {
+        MovieLabel label(m_file);
+        label.setDuration(1);
+        for (int i = 0; i < 2; ++i) {
+            label.show();
+            QCOMPARE(label.movie()->state(), QMovie::Running);
+            QTRY_COMPARE(label.movie()->state(), QMovie::NotRunning);
+            QVERIFY(label.isVisible());
+            label.hide();
+        }
+    }
+
+    void leavesAMargin()
+    {
+        MovieLabel label(m_file);
+        label.resize(360, 64);
+        label.show();
+        QCOMPARE(label.movie()->scaledSize(), QSize(327, 58));
+    }
 
 private:
     QTemporaryDir m_dir;
     QString m_file;
 };
-
-void tst_MovieLabel::initTestCase()
-{
-    m_file = m_dir.filePath(QStringLiteral("movie.gif"));
-    QFile file(m_file);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(kMovie, sizeof kMovie - 1);
-}
-
-void tst_MovieLabel::playsWhileShown()
-{
-    for (const int duration : {-1, 0}) {
-        MovieLabel label(m_file);
-        label.setDuration(duration);
-        QSignalSpy frames(label.movie(), &QMovie::frameChanged);
-        QCOMPARE(label.movie()->state(), QMovie::NotRunning);
-        label.show();
-        QTRY_VERIFY(frames.count() > 6);
-        QCOMPARE(label.movie()->state(), QMovie::Running);
-        label.hide();
-        QCOMPARE(label.movie()->state(), QMovie::NotRunning);
-    }
-}
-
-void tst_MovieLabel::stopsAfterItsDuration()
-{
-    MovieLabel label(m_file);
-    label.setDuration(1);
-    for (int i = 0; i < 2; ++i) {
-        label.show();
-        QCOMPARE(label.movie()->state(), QMovie::Running);
-        QTRY_COMPARE(label.movie()->state(), QMovie::NotRunning);
-        QVERIFY(label.isVisible());
-        label.hide();
-    }
-}
-
-void tst_MovieLabel::leavesAMargin()
-{
-    MovieLabel label(m_file);
-    label.resize(360, 64);
-    label.show();
-    QCOMPARE(label.movie()->scaledSize(), QSize(327, 58));
-}
-
-void tst_MovieLabel::missingFileShowsNothing()
-{
-    MovieLabel label(m_dir.filePath(QStringLiteral("gone.gif")));
-    label.setDuration(1);
-    label.show();
-    QVERIFY(!label.movie()->isValid());
-    QCOMPARE(label.movie()->state(), QMovie::NotRunning);
-}
 
 TESSARIN_TEST(tst_MovieLabel);
 #include "tst_MovieLabel.moc"

@@ -39,7 +39,6 @@ void logMessage(QtMsgType level, const QMessageLogContext& context, const QStrin
     stream << protocolLine(QDateTime::currentDateTime(), level, message,
                            QString::fromUtf8(context.file));
     if (level == QtFatalMsg) {
-        stream.flush();
         file.close();
         std::abort();
     }

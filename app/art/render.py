@@ -15,7 +15,7 @@ from canvas import SCALE, page
 
 HERE = pathlib.Path(__file__).resolve().parent
 RESOURCES = HERE.parent / "resources"
-ROOMS = ("nodes", "scenes")
+ROOMS = ("nodes", "scenes", "buttons")
 
 
 def rasterize(svg, target):

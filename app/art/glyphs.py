@@ -192,3 +192,68 @@ def megaphone(pen):
 
 def envelope(pen):
     return pen.box(2, 5, 20, 14.5) + pen.mark("M3 6.4L12 13.4L21 6.4")
+
+
+def blank_sheet(pen):
+    return pen.line("M5 2.5H14.5L19.5 7.5V21.5H5Z") + pen.mark("M14 3V8H19")
+
+
+def into_tray(pen):
+    return pen.line("M3 14.5V21H21V14.5") + pen.mark("M12 2.5V15M7 10.2L12 15.2L17 10.2")
+
+
+def bin_(pen):
+    return pen.line("M5.5 7L6.6 21.4H17.4L18.5 7M10 11V17.5M14 11V17.5") + pen.mark("M3 6.6H21M9 6V2.8H15V6")
+
+
+def folder_out(pen):
+    return pen.line("M21 12V19.5H2.5V4.5H9L11.4 7.5H13") + pen.mark("M11.5 14.5L21 5M15 4.2H21.6V10.8")
+
+
+def ledger(pen):
+    return pen.box(4, 2.5, 16, 19) + pen.line("M8 7.5H16M8 11.5H12") + pen.mark("M8 17L11 14.8L13.4 16.4L16.4 13")
+
+
+def quill(pen):
+    return pen.line("M4 20.5C8 20.5 17.5 18.5 20.6 3.4C12.4 4 6.5 8.4 7.6 16.4") + pen.mark("M3.4 21.4L14 9.6")
+
+
+def crate(pen):
+    return pen.line("M3 8.5L12 3.5L21 8.5V18L12 22L3 18Z") + pen.mark("M3.6 8.8L12 13L20.4 8.8M12 13V21")
+
+
+def pin(pen):
+    return pen.line("M12 21.8C7 15.6 5 12.4 5 9.4A7 7 0 0 1 19 9.4C19 12.4 17 15.6 12 21.8Z") + pen.dot(
+        12, 9.4, 2.8, accent=True)
+
+
+def hourglass(pen):
+    return pen.line("M5.5 2.8H18.5M5.5 21.2H18.5M7 3C7 8.6 12 9.4 12 12C12 14.6 7 15.4 7 21M17 3C17 8.6 12 9.4 "
+                    "12 12C12 14.6 17 15.4 17 21") + pen.stamp("M9 20.4C9.2 17.8 12 17.6 12 15.4C12 17.6 14.8 17.8 15 20.4Z")
+
+
+def note(pen):
+    return pen.line("M9 18V5L19.5 2.8V15.8") + pen.dot(6.2, 18.2, 3, accent=True) + pen.dot(
+        16.8, 16, 3, accent=True)
+
+
+def wave(pen):
+    return pen.line("M2.4 10V14M6.2 6.5V17.5M17.8 6.5V17.5M21.6 10V14") + pen.mark("M10 2.8V21.2M14 8V16")
+
+
+def reel(pen):
+    return pen.box(2.5, 4.5, 19, 15) + pen.line("M7 5V19M17 5V19M3 9.4H7M3 14.6H7M17 9.4H21M17 14.6H21") + pen.stamp(
+        "M10 8.8L15 12L10 15.2Z")
+
+
+def stack_of_frames(pen):
+    return pen.line("M6.5 6.5V3H21.5V14.5H18") + pen.box(2.5, 8, 14, 12.5) + pen.stamp("M7.4 11L13 14.2L7.4 17.4Z")
+
+
+def braces(pen):
+    return pen.line("M8.4 3C4 3 7 10.4 3 12C7 13.6 4 21 8.4 21M15.6 3C20 3 17 10.4 21 12C17 13.6 20 21 15.6 21"
+                    ) + pen.dot(12, 8.6, 1.7, accent=True) + pen.mark("M12 13.6C12.4 15 11.8 16 10.8 17")
+
+
+def loom(pen):
+    return pen.line("M3 4H21M3 20H21M6.5 4V20M12 4V20M17.5 4V20") + pen.mark("M3.4 9.4H9M15 9.4H20.6M9 14.6H15")

@@ -10,12 +10,15 @@ import pathlib
 import subprocess
 import sys
 
+import marks
 import movies
+import nodes
 from canvas import SCALE, page
 
 HERE = pathlib.Path(__file__).resolve().parent
 RESOURCES = HERE.parent / "resources"
-ROOMS = ("nodes", "scenes", "buttons")
+ROOMS = ("nodes", "scenes", "buttons", "smallware", "marks")
+ICON_SIZES = (16, 24, 32, 48, 64, 128, 256)
 
 
 def rasterize(svg, target):
@@ -23,13 +26,32 @@ def rasterize(svg, target):
     subprocess.run(["rsvg-convert", "--output", str(target)], input=svg.encode(), check=True)
 
 
-def main(wanted):
+def every_picture():
     for room in ROOMS:
-        for name, width, height, body, *scale in importlib.import_module(room).pictures():
-            if wanted and name not in wanted:
-                continue
+        yield from importlib.import_module(room).pictures()
+
+
+def render_masters():
+    """The pictures that are wanted at any size: the operations' icons and the program's own."""
+    folder = HERE / "svg"
+    folder.mkdir(exist_ok=True)
+    for tag, draw in nodes.OPERATIONS.items():
+        (folder / f"Icon_{tag}.svg").write_text(page(64, 64, draw(), 1))
+    icons = HERE / "icons"
+    icons.mkdir(exist_ok=True)
+    (icons / "tessarin.svg").write_text(page(256, 256, marks.program_sign(), 1))
+    for size in ICON_SIZES:
+        rasterize(page(256, 256, marks.program_sign(plain=size <= 32), size / 256),
+                  icons / f"tessarin-{size}.png")
+
+
+def main(wanted):
+    for name, width, height, body, *scale in every_picture():
+        if not wanted or name in wanted:
             rasterize(page(width, height, body, *(scale or [SCALE])), RESOURCES / f"{name}.png")
     movies.render(RESOURCES, wanted)
+    if not wanted:
+        render_masters()
 
 
 if __name__ == "__main__":

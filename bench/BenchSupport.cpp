@@ -1,0 +1,122 @@
+#include "BenchSupport.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cmath>
+#include <cstring>
+#include <map>
+#include <MGraphX/HeapPolicy.h>
+#include <random>
+#include <vector>
+
+namespace
+{
+
+const QSize kPhoto(6000, 4000);
+const QSize kPreview(360, 360);
+
+QImage wordCopy(const QImage& source)
+{
+    QImage copy(source.size(), source.format());
+    std::memcpy(copy.bits(), source.constBits(), size_t(source.sizeInBytes()));
+    return copy;
+}
+
+/// Seconds that a copy into a new image takes: the median of many.
+double copySeconds(const QSize& size)
+{
+    const QImage photo = benchPhoto(size);
+    const int inner = std::max(1, 24000000 / (size.width() * size.height()) / 8);
+    std::vector<double> times;
+    for (int i = 0; i < 21; ++i) {
+        const auto start = std::chrono::steady_clock::now();
+        for (int k = 0; k < inner; ++k) {
+            const QImage copy = wordCopy(photo);
+            benchmark::DoNotOptimize(copy.constBits());
+        }
+        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+        times.push_back(time.count() / inner);
+    }
+    std::nth_element(times.begin(), times.begin() + 10, times.end());
+    return times[10];
+}
+
+void runFilter(benchmark::State& state, const Filter& filter, const QSize& size,
+               QImage::Format format)
+{
+    static std::map<int, double> copies;
+    if (copies.count(size.width()) == 0) {
+        copies[size.width()] = copySeconds(size);
+    }
+    const QImage photo = benchPhoto(size, format);
+    double seconds = 0;
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        {
+            const QImage result = filter(photo);
+            benchmark::DoNotOptimize(result.constBits());
+        }
+        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+        state.SetIterationTime(time.count());
+        seconds += time.count();
+    }
+    const double each = seconds / double(state.iterations());
+    state.counters["ns_px"] = each * 1e9 / (double(size.width()) * size.height());
+    state.counters["x_copy"] = each / copies[size.width()];
+}
+
+} // namespace
+
+QImage benchPhoto(const QSize& size, QImage::Format format)
+{
+    std::minstd_rand noise(7);
+    QImage photo(size, QImage::Format_ARGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(photo.scanLine(y));
+        for (int x = 0; x < size.width(); ++x) {
+            const int wave = int(90 * std::sin(x * 0.003) * std::cos(y * 0.002)) + 120;
+            const auto bits = quint32(noise());
+            row[x] = qRgb(wave + int(bits & 15),
+                          wave / 2 + int((bits >> 4) & 31) + x * 60 / size.width(),
+                          220 - wave + int((bits >> 9) & 15));
+        }
+    }
+    return photo.convertToFormat(format);
+}
+
+void benchFilter(const std::string& name, const Filter& fast, const Filter& plain,
+                 QImage::Format format)
+{
+    const struct {
+        const char* suffix;
+        QSize size;
+    } sizes[] = {{"/photo", kPhoto}, {"/preview", kPreview}};
+    const struct {
+        const char* suffix;
+        const Filter& filter;
+    } ways[] = {{"", fast}, {"/plain", plain}, {"/memcpy", wordCopy}};
+    for (const auto& size : sizes) {
+        for (const auto& way : ways) {
+            const Filter filter = way.filter;
+            const QSize pixels = size.size;
+            benchmark::RegisterBenchmark(
+                (name + size.suffix + way.suffix).c_str(),
+                [=](benchmark::State& state) { runFilter(state, filter, pixels, format); })
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond);
+        }
+    }
+}
+
+int runBenchmarks(int argc, char** argv)
+{
+    MGraphX::keepHeap();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QImage>
+
+namespace MGraphX
+{
+
+/// Makes an image of `size` and `format` that carries on what `source` knows besides its pixels:
+/// colour space, resolution, texts, device pixel ratio and offset. Its pixels are not initialised.
+/// Errors: a null image if a side of `size` is below 1 or the memory isn't to be had.
+QImage imageLike(const QImage& source, const QSize& size, QImage::Format format);
+
+} // namespace MGraphX

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "kernels/HistogramKernel.h"
+
+#include <array>
+#include <cstdint>
+
+namespace MGraphX
+{
+
+/// The red values between which the histogram optimizer stretches a photo.
+struct StretchRange {
+    int low = 256; ///< the first value that counts as present from below, 256 if none does
+    int high = -1; ///< the first value that counts as present from above, -1 if none does
+};
+
+/// Finds the range of `bins[256]`, the red histogram of `pixelCount` pixels. A value is reached
+/// once more than a share of the pixels lies behind it: `right` half percents on the dark side,
+/// `left` half percents on the bright side. Shares above 100 percent count as 100; any integer will
+/// do.
+StretchRange stretchRange(const uint32_t* bins, int64_t pixelCount, int left, int right);
+
+/// The table that maps the bytes from `low` up to `high` onto 0 to 255; a range that is empty or
+/// turned round maps everything from `low` up to 255.
+std::array<unsigned char, 256> stretchTable(const StretchRange& range);
+
+/// The line that gives for every byte what the range's table gives.
+kernels::ByteLine stretchLine(const StretchRange& range);
+
+} // namespace MGraphX

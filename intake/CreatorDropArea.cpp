@@ -1,0 +1,191 @@
+#include "intake/CreatorDropArea.h"
+
+#include "intake/BaseNameOf.h"
+#include "intake/CommonData.h"
+#include <QMWidgets/FileDialog.h>
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QMimeData>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+CreatorDropArea::CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent)
+    : QMWidgets::Label(parent),
+      m_optionsPanel(panel),
+      m_nextButton(new QPushButton(this)),
+      m_previousButton(new QPushButton(this)),
+      m_counterLabel(new QLabel(this)),
+      m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")),
+                                   tr("Click to open the photos"), this))
+{
+    setFixedSize(360, 360);
+    setAcceptDrops(true);
+    setPixmap(QPixmap(QStringLiteral(":/droparea.png")));
+    setObjectName(QStringLiteral("DropArea"));
+    setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    setText(tr("<H2>Drop the photos here</H2>"));
+
+    m_nextButton->setObjectName(QStringLiteral("NextImageButton"));
+    m_nextButton->setAccessibleName(tr("Next photo"));
+    m_previousButton->setObjectName(QStringLiteral("PreviousImageButton"));
+    m_previousButton->setAccessibleName(tr("Previous photo"));
+    m_openButton->setObjectName(QStringLiteral("PushButton"));
+    m_openButton->setFixedHeight(32);
+    setControlsVisible(false);
+
+    connect(m_openButton, &QPushButton::clicked, this, &CreatorDropArea::slotOpenClicked);
+    connect(m_nextButton, &QPushButton::clicked, this, &CreatorDropArea::slotNext);
+    connect(m_previousButton, &QPushButton::clicked, this, &CreatorDropArea::slotPreviuos);
+
+    auto* column = new QVBoxLayout;
+    column->addStretch(1);
+    column->addWidget(m_counterLabel);
+    column->addWidget(m_openButton);
+    auto* row = new QHBoxLayout(this);
+    row->addWidget(m_previousButton);
+    row->addStretch(1);
+    row->addLayout(column);
+    row->addStretch(1);
+    row->addWidget(m_nextButton);
+}
+
+void CreatorDropArea::setFiles(const QList<QUrl>& urls)
+{
+    if (urls.isEmpty()) {
+        return;
+    }
+    m_urls = urls;
+    m_currentIndex = 0;
+    m_currentFile = m_urls.first().toLocalFile();
+    m_openButton->hide();
+    loadPixmap();
+    setText(QString());
+    emit dropped(true);
+    updateCounter();
+    emit updateItems(m_urls);
+}
+
+void CreatorDropArea::slotStateChanged(const QString&)
+{
+    loadPixmap();
+}
+
+void CreatorDropArea::slotNext()
+{
+    stepTo(m_currentIndex + 1 < m_urls.size() ? m_currentIndex + 1 : 0);
+}
+
+void CreatorDropArea::slotPreviuos()
+{
+    stepTo(m_currentIndex > 0 ? m_currentIndex - 1 : m_urls.size() - 1);
+}
+
+void CreatorDropArea::slotGotoFirst()
+{
+    if (m_urls.isEmpty()) {
+        return;
+    }
+    goTo(0);
+    emit dropped(true);
+    emit indexChanged(0);
+}
+
+void CreatorDropArea::slotOpenClicked()
+{
+    const QStringList paths = QMWidgets::FileDialog::getOpenFileNames(
+        this, tr("Open the photos"), QString(), QString(), nullptr, QFileDialog::Options());
+    QList<QUrl> urls;
+    for (const QString& path : paths) {
+        urls.append(QUrl::fromLocalFile(path));
+    }
+    setFiles(urls);
+}
+
+void CreatorDropArea::slotItemClicked(int index)
+{
+    if (index < 0 || index >= m_urls.size()) {
+        return;
+    }
+    goTo(index);
+    emit dropped(true);
+}
+
+void CreatorDropArea::stepTo(int index)
+{
+    if (m_urls.isEmpty()) {
+        return;
+    }
+    // One run of the flow for each step: a step that comes as a plain call while the strip is shown
+    // moves the strip's current row, and that row asks for the run.
+    const bool runsFlow = sender() != nullptr || isVisible();
+    goTo(index);
+    if (runsFlow) {
+        emit dropped(true);
+    }
+    emit indexChanged(m_currentIndex);
+}
+
+void CreatorDropArea::goTo(int index)
+{
+    m_currentIndex = index;
+    m_currentFile = m_urls.at(index).toLocalFile();
+    updateCounter();
+    loadPixmap();
+}
+
+void CreatorDropArea::loadPixmap()
+{
+    // Twice the widget's size stays sharp on dense screens.
+    setPixmap(
+        QPixmap(m_currentFile).scaled(size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+void CreatorDropArea::updateCounter()
+{
+    CommonData* data = CommonData::instance();
+    data->setCount(m_urls.size());
+    data->setCurrentIndex(m_currentIndex);
+    data->setCurrentName(baseNameOf(QFileInfo(m_urls.at(m_currentIndex).toLocalFile())));
+    m_counterLabel->setText(QStringLiteral("<CENTER><H1>%1 of %2</H1></CENTER>")
+                                .arg(m_currentIndex + 1)
+                                .arg(m_urls.size()));
+}
+
+void CreatorDropArea::setControlsVisible(bool visible)
+{
+    m_nextButton->setVisible(visible);
+    m_previousButton->setVisible(visible);
+    m_counterLabel->setVisible(visible);
+}
+
+void CreatorDropArea::enterEvent(QEvent* event)
+{
+    if (m_urls.size() > 1) {
+        setControlsVisible(true);
+    }
+    Label::enterEvent(event);
+}
+
+void CreatorDropArea::leaveEvent(QEvent* event)
+{
+    setControlsVisible(false);
+    Label::leaveEvent(event);
+}
+
+void CreatorDropArea::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasFormat(QStringLiteral("text/uri-list"))) {
+        event->acceptProposedAction();
+    }
+}
+
+void CreatorDropArea::dropEvent(QDropEvent* event)
+{
+    setFiles(event->mimeData()->urls());
+    Label::dropEvent(event);
+}

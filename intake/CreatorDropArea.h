@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QMWidgets/Label.h>
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+class NodesOptionsPanel;
+class QPushButton;
+
+/// The square of the source panel: takes photos by drop or file dialog, shows the current one and
+/// steps through them. It owns the list of photos and the current index; the shared data and the
+/// strip hold copies.
+class CreatorDropArea : public QMWidgets::Label
+{
+    Q_OBJECT
+
+public:
+    CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent);
+
+    /// Replaces the list by one that isn't empty; the first photo becomes current.
+    void setFiles(const QList<QUrl>& urls);
+
+    /// Local path of the current photo; empty until photos arrive, and for a URL that is no local
+    /// file.
+    QString currentFile() const { return m_currentFile; }
+
+signals:
+    /// The current photo is to be taken through the flow. The argument is always true.
+    void dropped(bool taken);
+    void indexChanged(int index);
+    void updateItems(const QList<QUrl>& urls);
+
+public slots:
+    void slotStateChanged(const QString& state);
+    void slotNext();
+    void slotPreviuos(); // sic
+    void slotGotoFirst();
+    void slotOpenClicked();
+    void slotItemClicked(int index);
+
+protected:
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void stepTo(int index);
+    void goTo(int index);
+    void loadPixmap();
+    void updateCounter();
+    void setControlsVisible(bool visible);
+
+    QString m_currentFile;
+    NodesOptionsPanel* m_optionsPanel;
+    QList<QUrl> m_urls;
+    int m_currentIndex = 0;
+    QPushButton* m_nextButton;
+    QPushButton* m_previousButton;
+    QLabel* m_counterLabel;
+    QPushButton* m_openButton;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+/// A place in a grid of three by three, numbered in reading order.
+enum Direction {
+    TopLeft,
+    TopMiddle,
+    TopRight,
+    MiddleLeft,
+    Middle,
+    MiddleRight,
+    BottomLeft,
+    BottomMiddle,
+    BottomRight
+};

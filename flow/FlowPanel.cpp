@@ -1,0 +1,242 @@
+#include "flow/FlowPanel.h"
+
+#include "flow/BaseNode.h"
+#include "flow/FavoritesDeleteDlg.h"
+#include "flow/NodesOptionsPanel.h"
+#include "flow/NodesTabBar.h"
+#include "flow/Operations.h"
+#include "flow/TabLabel.h"
+#include <QMWidgets/App.h>
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+namespace
+{
+
+QPushButton* makeButton(const QString& caption, const QString& objectName, QWidget* parent)
+{
+    auto* button = new QPushButton(caption, parent);
+    button->setObjectName(objectName);
+    button->setFlat(true);
+    return button;
+}
+
+/// A round button whose caption is a sign: its tool tip names it.
+QPushButton* makeRoundButton(const QString& sign, const QString& objectName, const QString& toolTip,
+                             QWidget* parent)
+{
+    QPushButton* const button = makeButton(sign, objectName, parent);
+    button->setFixedSize(40, 40);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    return button;
+}
+
+} // namespace
+
+FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
+    : QFrame(parent),
+      m_optionsPanel(optionsPanel),
+      m_tabBar(new NodesTabBar(this)),
+      m_removeButton(makeRoundButton(QStringLiteral("-"), QStringLiteral("PushButtonRemove"),
+                                     tr("Remove selected node"), this)),
+      m_deleteDialog(new FavoritesDeleteDlg(nullptr))
+{
+    setObjectName(QStringLiteral("FlowPanel"));
+    setFixedHeight(165);
+
+    m_tabBar->setMovable(true);
+    m_tabBar->setUsesScrollButtons(true);
+    m_tabBar->setMinimumHeight(70);
+    m_tabBar->setAccessibleName(tr("Operations"));
+    connect(m_tabBar, &NodesTabBar::tabClicked, this, &FlowPanel::slotTabClicked);
+    connect(m_tabBar, &NodesTabBar::countChanged, this, &FlowPanel::slotNodesCountChanged);
+    connect(m_tabBar, &NodesTabBar::tabMoved, this, &FlowPanel::slotTabMoved);
+
+    auto* addButton =
+        makeRoundButton(QStringLiteral("+"), QStringLiteral("PushButtonAdd"), tr("Add node"), this);
+    addButton->setMenu(makeAddMenu(addButton));
+    connect(m_removeButton, &QPushButton::clicked, this, &FlowPanel::slotRemoveNode);
+
+    auto* flowsButton = makeButton(QStringLiteral("Flows"), QStringLiteral("PushButton"), this);
+    flowsButton->setFixedHeight(40);
+    m_favoritesMenu = new QMenu(flowsButton);
+    m_favoritesMenu->setObjectName(QStringLiteral("FavoritesMenu"));
+    rebuildFavoritesMenu();
+    flowsButton->setMenu(m_favoritesMenu);
+
+    auto* runButton = new QPushButton(QStringLiteral("Save Results"), this);
+    runButton->setObjectName(QStringLiteral("RunBatchButton"));
+    runButton->setToolTip(tr("Save the resulted photos to the separate folder"));
+    connect(runButton, &QPushButton::clicked, this, &FlowPanel::slotRunBatch);
+
+    layOut(addButton, flowsButton, runButton);
+    slotNodesCountChanged(0);
+}
+
+FlowPanel::~FlowPanel()
+{
+    delete m_deleteDialog;
+}
+
+QMenu* FlowPanel::makeAddMenu(QWidget* parent)
+{
+    auto* menu = new QMenu(parent);
+    menu->setObjectName(QStringLiteral("FlowPanelMenu"));
+    for (const Operation& operation : operations()) {
+        QAction* const action = menu->addAction(nodeIcon(operation.name), operation.name);
+        connect(action, &QAction::triggered, this, &FlowPanel::slotAddNode);
+    }
+    return menu;
+}
+
+void FlowPanel::rebuildFavoritesMenu()
+{
+    m_favoritesMenu->clear();
+    QAction* const clear =
+        m_favoritesMenu->addAction(QIcon(QStringLiteral(":/new.png")), tr("&Clear"));
+    connect(clear, &QAction::triggered, this, &FlowPanel::slotNewFavorite);
+}
+
+void FlowPanel::layOut(QPushButton* addButton, QPushButton* flowsButton, QPushButton* runButton)
+{
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(3);
+    buttons->setContentsMargins(1, 1, 1, 1);
+    buttons->addWidget(addButton);
+    buttons->addSpacing(4);
+    buttons->addWidget(m_removeButton);
+    buttons->addWidget(flowsButton);
+    buttons->addStretch(1);
+    buttons->addWidget(runButton);
+
+    auto* tabs = new QHBoxLayout;
+    tabs->setSpacing(0);
+    tabs->setContentsMargins(0, 0, 0, 0);
+    tabs->addWidget(m_tabBar);
+
+    auto* frame = new QFrame(this);
+    frame->setObjectName(QStringLiteral("FlowPanelFrame"));
+    auto* rows = new QVBoxLayout(frame);
+    rows->setSpacing(3);
+    rows->setContentsMargins(3, 3, 3, 3);
+    rows->addLayout(buttons);
+    rows->addStretch(1);
+    rows->addLayout(tabs);
+
+    auto* layout = new QHBoxLayout(this);
+    if (QMWidgets::App::isSmallScreen()) {
+        layout->setSpacing(1);
+        layout->setContentsMargins(1, 1, 1, 1);
+    }
+    layout->addWidget(frame);
+
+    QWidget* const inOrder[] = {addButton, m_removeButton, flowsButton, runButton, m_tabBar};
+    for (std::size_t i = 1; i < std::size(inOrder); ++i) {
+        setTabOrder(inOrder[i - 1], inOrder[i]);
+    }
+}
+
+BaseNode* FlowPanel::addNode(const QString& operationName)
+{
+    BaseNode* const node = m_optionsPanel->createNode(operationName);
+    if (!node) {
+        return nullptr;
+    }
+    const int index = m_tabBar->addTab(nodeIcon(operationName), operationName);
+    m_tabBar->setTabToolTip(index, operationName);
+    m_flow[index] = node;
+
+    auto* label = new TabLabel(nullptr);
+    label->setFixedSize(70, 70);
+    m_tabBar->setTabButton(index, QTabBar::LeftSide, label);
+    m_tabBar->setCurrentIndex(index);
+    m_tabLabels[node] = label;
+    connect(node, &BaseNode::previewChanged, this, &FlowPanel::slotNodePreviewChanged);
+    return node;
+}
+
+void FlowPanel::slotTabMoved(int from, int to)
+{
+    // The bar moves a tab by one place at a time, so that a swap is the whole move.
+    std::swap(m_flow[from], m_flow[to]);
+    emit flowChanged(m_flow);
+}
+
+void FlowPanel::slotAddNode()
+{
+    if (const auto* action = qobject_cast<QAction*>(sender())) {
+        addAndTell(action->text());
+    }
+}
+
+void FlowPanel::slotAddWaterMarkNode()
+{
+    addAndTell(QStringLiteral("Watermark"));
+}
+
+void FlowPanel::addAndTell(const QString& operationName)
+{
+    if (addNode(operationName)) {
+        emit flowChanged(m_flow);
+    }
+}
+
+void FlowPanel::slotNewFavorite()
+{
+    const int count = m_tabBar->count();
+    for (int i = 0; i < count; ++i) {
+        slotRemoveNode();
+    }
+}
+
+void FlowPanel::slotTabClicked()
+{
+    if (BaseNode* const node = m_flow.value(m_tabBar->currentIndex())) {
+        emit showOptions(node);
+    }
+}
+
+void FlowPanel::slotRemoveNode()
+{
+    const int current = m_tabBar->currentIndex();
+    BaseNode* const removed = m_flow.value(current);
+    if (!removed) {
+        return;
+    }
+    const int last = m_flow.size() - 1;
+    QMap<int, BaseNode*> remaining;
+    for (int i = 0; i < last; ++i) {
+        remaining[i] = m_flow.value(i < current ? i : i + 1);
+    }
+    m_tabLabels.remove(removed);
+    m_tabBar->removeTab(current);
+    m_flow = remaining;
+    const int nextIndex = current == last ? last - 1 : current;
+    m_tabBar->setCurrentIndex(nextIndex);
+    emit nodeRemoved(m_flow, removed, m_flow.value(nextIndex));
+}
+
+void FlowPanel::slotNodesCountChanged(int count)
+{
+    m_removeButton->setEnabled(count != 0);
+}
+
+void FlowPanel::slotRunBatch()
+{
+    emit runBatch();
+}
+
+void FlowPanel::slotNodePreviewChanged(const QImage& image)
+{
+    const auto label = m_tabLabels.find(qobject_cast<BaseNode*>(sender()));
+    if (label != m_tabLabels.end()) {
+        label.value()->setPixmap(QPixmap::fromImage(image));
+    }
+}

@@ -1,0 +1,12 @@
+#include "flow/FlowsFolder.h"
+
+#include <QMWidgets/App.h>
+
+#include <QDir>
+
+QString flowsFolder()
+{
+    const QString folder = QMWidgets::App::app()->appHomeFolder(true) + QLatin1String("Flows/");
+    QDir().mkpath(folder);
+    return folder;
+}

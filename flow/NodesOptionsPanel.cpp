@@ -1,0 +1,131 @@
+#include "flow/NodesOptionsPanel.h"
+
+#include "flow/BaseNode.h"
+#include "flow/Operations.h"
+#include "intake/CommonData.h"
+#include <QMWidgets/App.h>
+#include <QMWidgets/Label.h>
+#include <QMWidgets/MovieLabel.h>
+
+#include <QCoreApplication>
+#include <QPixmap>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace
+{
+
+/// Width of a preview, in device-independent pixels.
+constexpr int kPreviewWidth = 360;
+
+QMWidgets::Label* makeInitLabel()
+{
+    auto* label = new QMWidgets::Label(nullptr);
+    label->setPixmap(QPixmap(QStringLiteral(":/initlabel_en.png")));
+
+    // It points down at the button that adds a node.
+    auto* arrow = new QMWidgets::MovieLabel(QStringLiteral(":/arrow.gif"), label);
+    arrow->setDuration(10000);
+    arrow->setFixedSize(100, 100);
+    auto* layout = new QVBoxLayout(label);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(arrow, 0, Qt::AlignLeft | Qt::AlignBottom);
+    return label;
+}
+
+} // namespace
+
+NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
+    : QFrame(parent),
+      m_initLabel(makeInitLabel()),
+      m_stack(new QStackedWidget(this))
+{
+    setMinimumHeight(175);
+    m_stack->addWidget(m_initLabel);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+    layout->addWidget(m_stack);
+}
+
+void NodesOptionsPanel::setImage(QImage image)
+{
+    m_sourceImage = std::move(image).convertToFormat(QImage::Format_ARGB32);
+    slotParametersChanged();
+    emit realPreview();
+}
+
+BaseNode* NodesOptionsPanel::createNode(const QString& operationName)
+{
+    const Operation* const operation = findOperation(operationName);
+    if (!operation) {
+        return nullptr;
+    }
+    BaseNode* const node = operation->create(operation->name);
+    m_stack->addWidget(node);
+    m_stack->setCurrentWidget(node);
+    connect(node, &BaseNode::parametersChanged, this, &NodesOptionsPanel::slotParametersChanged,
+            Qt::DirectConnection);
+    return node;
+}
+
+void NodesOptionsPanel::slotShowOptions(BaseNode* node)
+{
+    if (node) {
+        m_stack->setCurrentWidget(node);
+    }
+}
+
+void NodesOptionsPanel::slotFlowChanged(QMap<int, BaseNode*> flow)
+{
+    m_flow = std::move(flow);
+    slotParametersChanged();
+}
+
+void NodesOptionsPanel::slotNodeRemoved(QMap<int, BaseNode*> flow, BaseNode* removed,
+                                        BaseNode* next)
+{
+    if (removed) {
+        m_stack->removeWidget(removed);
+        removed->deleteLater();
+    }
+    slotShowOptions(next);
+    slotFlowChanged(std::move(flow));
+}
+
+void NodesOptionsPanel::slotParametersChanged()
+{
+    const quint64 run = ++m_lastRun;
+    QImage image = workingCopy();
+    const int count = m_flow.size();
+    for (int i = 0; i < count; ++i) {
+        if (!letEventsThrough(run)) {
+            return;
+        }
+        if (BaseNode* const node = m_flow.value(i)) {
+            node->process(image);
+        }
+    }
+    if (letEventsThrough(run)) {
+        emit imageChanged(image);
+    }
+}
+
+QImage NodesOptionsPanel::workingCopy() const
+{
+    const int limit = int(kPreviewWidth * QMWidgets::App::devicePixelRatio());
+    // Deliberate: only the width counts, so a narrow picture keeps its full height.
+    if (CommonData::instance()->previewMode() && limit < m_sourceImage.width()) {
+        return m_sourceImage.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    return m_sourceImage;
+}
+
+/// False if a newer run has come and gone meanwhile.
+bool NodesOptionsPanel::letEventsThrough(quint64 run)
+{
+    QCoreApplication::processEvents();
+    return run == m_lastRun;
+}

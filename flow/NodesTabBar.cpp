@@ -1,0 +1,26 @@
+#include "flow/NodesTabBar.h"
+
+NodesTabBar::NodesTabBar(QWidget* parent)
+    : QTabBar(parent)
+{
+}
+
+void NodesTabBar::tabInserted(int index)
+{
+    QTabBar::tabInserted(index);
+    emit countChanged(count());
+}
+
+void NodesTabBar::tabRemoved(int index)
+{
+    QTabBar::tabRemoved(index);
+    emit countChanged(count());
+}
+
+void NodesTabBar::mouseReleaseEvent(QMouseEvent* event)
+{
+    // Deliberate: a further press ends the drag of a tab at once, where the base class's release
+    // would let the tab slide home and keep the drag open until it has arrived.
+    QTabBar::mousePressEvent(event);
+    emit tabClicked();
+}

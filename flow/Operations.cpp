@@ -1,0 +1,77 @@
+#include "flow/Operations.h"
+
+#include "flow/nodes/BCSNode.h"
+#include "flow/nodes/BINNode.h"
+#include "flow/nodes/GRSNode.h"
+#include "flow/nodes/HSTNode.h"
+#include "flow/nodes/INVNode.h"
+#include "flow/nodes/RGBNode.h"
+#include <MGraphX/GraphX.h>
+
+#include <algorithm>
+
+namespace
+{
+
+using MGraphX::GraphX;
+
+template <class Node> BaseNode* create(const QString& name)
+{
+    return new Node(name, nullptr);
+}
+
+/// For an operation without parameters, whatever the text says.
+template <QImage (*filter)(const QImage&)> QImage plain(const QImage& image, const QString&)
+{
+    return filter(image);
+}
+
+QVector<Operation> makeOperations()
+{
+    return {
+        {QStringLiteral("Brightness, Contrast, Saturation"), QStringLiteral("Icon_BRT.png"),
+         create<BCSNode>, BCSNode::processFromXml},
+        {QStringLiteral("Histogram optimizer"), QStringLiteral("Icon_HST.png"), create<HSTNode>,
+         HSTNode::processFromXml},
+        {QStringLiteral("RGB-Order"), QStringLiteral("Icon_RGB.png"), create<RGBNode>,
+         RGBNode::processFromXml},
+        {QStringLiteral("Invert"), QStringLiteral("Icon_INV.png"), create<INVNode>,
+         plain<GraphX::invert>},
+        {QStringLiteral("Binarization"), QStringLiteral("Icon_BIN.png"), create<BINNode>,
+         BINNode::processFromXml},
+        {QStringLiteral("Grayscale"), QStringLiteral("Icon_GRS.png"), create<GRSNode>,
+         plain<GraphX::grayscale>},
+    };
+}
+
+/// The order in which nodeIcon looks: a text that holds several names gets the icon of the first.
+const char* const kIconOrder[] = {"Binarization",        "Brightness, Contrast, Saturation",
+                                  "Histogram optimizer", "Invert",
+                                  "RGB-Order",           "Grayscale"};
+
+} // namespace
+
+const QVector<Operation>& operations()
+{
+    static const QVector<Operation> table = makeOperations();
+    return table;
+}
+
+const Operation* findOperation(const QString& name)
+{
+    const QVector<Operation>& table = operations();
+    const auto row = std::find_if(table.begin(), table.end(), [&name](const Operation& operation) {
+        return operation.name == name;
+    });
+    return row == table.end() ? nullptr : &*row;
+}
+
+QPixmap nodeIcon(const QString& operationName)
+{
+    for (const char* const name : kIconOrder) {
+        if (operationName.contains(QLatin1String(name))) {
+            return QPixmap(QLatin1String(":/") + findOperation(QLatin1String(name))->icon);
+        }
+    }
+    return QPixmap();
+}

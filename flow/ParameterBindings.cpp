@@ -1,0 +1,57 @@
+#include "flow/ParameterBindings.h"
+
+#include "flow/ComboSlider.h"
+#include "flow/ParameterReader.h"
+
+#include <QComboBox>
+#include <QDomDocument>
+
+void ParameterBindings::bind(const char* tag, Apply apply, Tell tell)
+{
+    m_bindings.append({QLatin1String(tag), std::move(apply), std::move(tell)});
+}
+
+void ParameterBindings::bind(const char* tag, ComboSlider* slider)
+{
+    bindNumber(tag, slider, &ComboSlider::setValue, &ComboSlider::value);
+}
+
+void ParameterBindings::bind(const char* tag, QComboBox* box)
+{
+    bindNumber(tag, box, &QComboBox::setCurrentIndex, &QComboBox::currentIndex);
+}
+
+template <class Control>
+void ParameterBindings::bindNumber(const char* tag, Control* control, void (Control::*set)(int),
+                                   int (Control::*get)() const)
+{
+    bind(
+        tag,
+        [control, set](const QString& text) {
+            int value = 0;
+            if (ParameterReader::readInt(text, value)) {
+                (control->*set)(value);
+            }
+        },
+        [control, get] { return QString::number((control->*get)(), 10); });
+}
+
+void ParameterBindings::read(const QDomNode& parameters) const
+{
+    ParameterReader::forEachElement(parameters, [this](const QString& tag, const QString& text) {
+        for (const Binding& binding : m_bindings) {
+            if (tag == binding.tag) {
+                binding.apply(text);
+            }
+        }
+    });
+}
+
+void ParameterBindings::write(QDomElement& parameters, QDomDocument document) const
+{
+    for (const Binding& binding : m_bindings) {
+        QDomElement element = document.createElement(binding.tag);
+        element.appendChild(document.createTextNode(binding.tell()));
+        parameters.appendChild(element);
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <functional>
+#include <QLatin1String>
+#include <QString>
+#include <QVector>
+
+class QComboBox;
+class QDomDocument;
+class QDomElement;
+class QDomNode;
+class ComboSlider;
+
+/// Ties a node's parameters to its controls: for each tag, how its text is applied and how it is
+/// told. Reading follows the order of the elements, writing the order of binding.
+class ParameterBindings
+{
+public:
+    using Apply = std::function<void(const QString& text)>;
+    using Tell = std::function<QString()>;
+
+    /// Tags are constants of the program, so they outlive the bindings.
+    void bind(const char* tag, Apply apply, Tell tell);
+    /// The control's own range bounds what is read.
+    void bind(const char* tag, ComboSlider* slider);
+    /// The current index; a number outside the box leaves it with no current item.
+    void bind(const char* tag, QComboBox* box);
+
+    void read(const QDomNode& parameters) const;
+    void write(QDomElement& parameters, QDomDocument document) const;
+
+private:
+    struct Binding {
+        QLatin1String tag;
+        Apply apply;
+        Tell tell;
+    };
+
+    template <class Control>
+    void bindNumber(const char* tag, Control* control, void (Control::*set)(int),
+                    int (Control::*get)() const);
+
+    QVector<Binding> m_bindings;
+};

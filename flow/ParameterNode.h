@@ -1,0 +1,27 @@
+#pragma once
+
+#include "flow/BaseNode.h"
+#include "flow/ParameterBindings.h"
+
+class ComboSlider;
+struct SliderParameter;
+
+/// A node whose parameters are tied to their controls: what is bound is read and written.
+class ParameterNode : public BaseNode
+{
+    Q_OBJECT
+
+public:
+    using BaseNode::BaseNode;
+
+    void readParameters(const QDomNode& parameters) override;
+    void writeParameters(QDomElement& parameters, QDomDocument document) override;
+
+protected:
+    /// Makes the parameter's slider, puts it into the form and binds it.
+    ComboSlider* addSlider(const SliderParameter& parameter, QFormLayout* form);
+    ParameterBindings& bindings() { return m_bindings; }
+
+private:
+    ParameterBindings m_bindings;
+};

@@ -1,0 +1,6 @@
+#include "flow/TabLabel.h"
+
+TabLabel::TabLabel(QWidget* parent)
+    : QMWidgets::Label(parent)
+{
+}

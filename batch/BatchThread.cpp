@@ -1,0 +1,29 @@
+#include "batch/BatchThread.h"
+
+#include "batch/BatchWorker.h"
+
+#include <QTimer>
+
+namespace
+{
+constexpr int kStartDelay = 100; // milliseconds, in which the dialog comes up
+} // namespace
+
+BatchThread::BatchThread()
+    : m_worker(new BatchWorker)
+{
+    m_worker->moveToThread(this);
+}
+
+BatchThread::~BatchThread()
+{
+    wait();
+    delete m_worker;
+}
+
+void BatchThread::run()
+{
+    QTimer::singleShot(kStartDelay, m_worker, &BatchWorker::slotDoWork);
+    exec();
+    m_worker->endUnstartedRun();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QThread>
+
+class BatchWorker;
+
+/// The thread of the batch, with its worker. Started anew for each run and left by quit().
+class BatchThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    BatchThread();
+    /// Waits for the thread; the caller has asked it to stop and quit.
+    ~BatchThread() override;
+
+    BatchWorker* worker() const { return m_worker; }
+
+protected:
+    void run() override;
+
+private:
+    BatchWorker* m_worker;
+};

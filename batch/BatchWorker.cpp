@@ -1,0 +1,109 @@
+#include "batch/BatchWorker.h"
+
+#include "batch/ResultFile.h"
+#include "flow/Operations.h"
+#include "intake/BaseNameOf.h"
+
+#include <QFileInfo>
+#include <QThread>
+
+namespace
+{
+enum Numbers { AllNumbers, OddNumbers, EvenNumbers };
+constexpr unsigned long kPausePoll = 500; // milliseconds
+} // namespace
+
+void BatchWorker::setJob(const QString& format, int quality, bool rename, const QString& newName,
+                         int numbers, const QString& destination, const QList<QUrl>& photos,
+                         const Operations& operations)
+{
+    m_format = format;
+    m_quality = quality;
+    m_rename = rename;
+    m_newName = newName;
+    m_numbers = numbers;
+    m_destination = destination;
+    m_photos = photos;
+    m_operations = operations;
+    m_oddNumber = 1;
+    m_evenNumber = 2;
+    m_jobWaits = true;
+}
+
+void BatchWorker::endUnstartedRun()
+{
+    if (m_jobWaits) {
+        m_jobWaits = false;
+        emit finished();
+    }
+}
+
+void BatchWorker::slotDoWork()
+{
+    m_jobWaits = false;
+    m_stopped = false;
+    m_paused = false;
+    const int total = m_photos.size();
+    for (int index = 0; index < total && !m_stopped; ++index) {
+        // Deliberate: a stop during a pause still lets the photo in hand through.
+        waitWhilePaused();
+        const QString file = m_photos.at(index).toLocalFile();
+        const QImage image = process(file);
+        emit updateInfo(image, index, total);
+        save(image, resultName(index));
+    }
+    emit finished();
+}
+
+void BatchWorker::waitWhilePaused() const
+{
+    while (m_paused && !m_stopped) {
+        QThread::msleep(kPausePoll);
+    }
+}
+
+QImage BatchWorker::process(const QString& file) const
+{
+    // Straight from the decoder's hand, the conversion works in place.
+    QImage image = QImage(file).convertToFormat(QImage::Format_ARGB32);
+    if (image.isNull()) {
+        qWarning("Can't read the photo %s", qUtf8Printable(file));
+    }
+    for (const auto& [name, parameters] : m_operations) {
+        if (const Operation* const operation = findOperation(name)) {
+            image = operation->processFromXml(image, parameters);
+        }
+    }
+    return image;
+}
+
+QString BatchWorker::resultName(int index)
+{
+    if (m_rename) {
+        switch (m_numbers) {
+        case AllNumbers:
+            return m_newName + QString::number(index);
+        case OddNumbers:
+            m_oddNumber += 2;
+            return m_newName + QString::number(m_oddNumber - 2);
+        case EvenNumbers:
+            m_evenNumber += 2;
+            return m_newName + QString::number(m_evenNumber - 2);
+        default:
+            break;
+        }
+    }
+    return baseNameOf(QFileInfo(m_photos.at(index).toLocalFile()));
+}
+
+void BatchWorker::save(const QImage& image, const QString& name) const
+{
+    const QString file = m_destination + name + QLatin1Char('.') + m_format.toLower();
+    if (image.isNull()) {
+        return;
+    }
+    if (!liesIn(m_destination, file) ||
+        !saveResult(image, file, m_format.toLocal8Bit(), m_quality)) {
+        qWarning("Can't write the result %s", qUtf8Printable(file));
+    }
+}

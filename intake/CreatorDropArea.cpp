@@ -147,10 +147,10 @@ void CreatorDropArea::loadPixmap()
 
 void CreatorDropArea::updateCounter()
 {
-    CommonData* data = CommonData::instance();
-    data->setCount(m_urls.size());
-    data->setCurrentIndex(m_currentIndex);
-    data->setCurrentName(baseNameOf(QFileInfo(m_urls.at(m_currentIndex).toLocalFile())));
+    CommonData* const shared = CommonData::instance();
+    shared->setCount(m_urls.size());
+    shared->setCurrentIndex(m_currentIndex);
+    shared->setCurrentName(baseNameOf(QFileInfo(m_urls.at(m_currentIndex).toLocalFile())));
     m_counterLabel->setText(QStringLiteral("<CENTER><H1>%1 of %2</H1></CENTER>")
                                 .arg(m_currentIndex + 1)
                                 .arg(m_urls.size()));

@@ -20,12 +20,7 @@ QImage readThumbnail(const QString& path)
     const QSize size = reader.size();
     reader.setScaledSize(
         QSize(qRound(size.width() / kReduction), qRound(size.height() / kReduction)));
-    QImage image = reader.read();
-    // Nothing can be painted on a picture with a palette.
-    if (image.depth() == 1 || image.format() == QImage::Format_Indexed8) {
-        image = std::move(image).convertToFormat(QImage::Format_ARGB32);
-    }
-    return MGraphX::GraphX::fitInto(image, kThumbnailSize, QColor(100, 100, 100, 0));
+    return MGraphX::GraphX::fitInto(reader.read(), kThumbnailSize, QColor(100, 100, 100, 0));
 }
 
 } // namespace

@@ -1,0 +1,58 @@
+#include "app/Startup.h"
+
+#include "app/Catalogue.h"
+#include "app/MainPage.h"
+#include "app/StyleSheet.h"
+#include "flow/FlowsFolder.h"
+#include <MGraphX/HeapPolicy.h>
+#include <QMWidgets/App.h>
+#include <QMWidgets/DropWidget.h>
+#include <QMWidgets/MakerSite.h>
+
+#include <QIcon>
+
+namespace MakerSite = QMWidgets::MakerSite;
+
+const QString kOrganizationName = QStringLiteral("Corvane");
+const QString kApplicationName = QStringLiteral("Tessarin");
+
+namespace
+{
+const QString kSampleFlow = QStringLiteral(":/sample.flow");
+} // namespace
+
+void prepareProcess()
+{
+    MGraphX::keepHeap();
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+void setUpApplication(QMWidgets::App& app)
+{
+    app.setPromotedAppUrl(MakerSite::page(QStringLiteral("/apps/tessarin/")));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QCoreApplication::setOrganizationDomain(MakerSite::organizationDomain());
+    app.setStyleSheet(applicationStyleSheet());
+    app.setupWebLinks();
+    if (app.firstRun()) {
+        // Without it the program runs just as well.
+        static_cast<void>(app.copyFileToFolder(kSampleFlow, flowsFolder(), QString()));
+    }
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/appicon.png")));
+}
+
+void openProgram(QMWidgets::App& app, MainPage& page, QMWidgets::DropWidget& dropWindow)
+{
+    fillCatalogue(*page.menuBar());
+    QObject::connect(&app, &QMWidgets::App::dockClicked, &page, &MainPage::showNormal);
+    page.setWindowTitle(QCoreApplication::applicationName());
+    dropWindow.setWindowTitle(QCoreApplication::applicationName());
+    dropWindow.resize(400, 400);
+    dropWindow.show();
+    QObject::connect(&dropWindow, &QMWidgets::DropWidget::dropped, &page,
+                     &MainPage::slotFilesDropped);
+    app.setMainWidget(&page);
+}

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# build.sh PRESET: installs what is missing, then configures and builds that preset.
+# With TESSARIN_NO_INSTALL=1 nothing is installed.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+preset=$1
+if [ "${TESSARIN_NO_INSTALL:-0}" != 1 ]; then
+    if [ "$preset" = bench ]; then
+        scripts/install-dependencies.sh bench
+    else
+        scripts/install-dependencies.sh
+    fi
+fi
+if command -v brew >/dev/null 2>&1 && [ -d "$(brew --prefix qt@5 2>/dev/null)" ]; then
+    CMAKE_PREFIX_PATH="$(brew --prefix qt@5)${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"
+    export CMAKE_PREFIX_PATH
+fi
+cmake --preset "$preset"
+cmake --build --preset "$preset"

@@ -1,0 +1,132 @@
+#include "intake/CommonData.h"
+#include "intake/CreatorDropArea.h"
+#include "support/DropEvents.h"
+#include "support/Photos.h"
+#include "support/TestMain.h"
+
+#include <QPushButton>
+#include <QSignalSpy>
+
+class TestCreatorDropArea : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QPushButton* button(const CreatorDropArea& area, const char* name)
+    {
+        return area.findChild<QPushButton*>(QLatin1String(name));
+    }
+
+    static QString shownTexts(const CreatorDropArea& area)
+    {
+        QString texts;
+        for (const QLabel* label : area.findChildren<QLabel*>()) {
+            texts += label->isVisible() ? label->text() : QString();
+        }
+        return texts;
+    }
+
+private slots:
+    void takesAListOfUrlsAndNothingElse()
+    {
+        Photos photos;
+        CreatorDropArea area(nullptr, nullptr);
+        area.show();
+        QSignalSpy dropped(&area, &CreatorDropArea::dropped);
+        QMimeData text;
+        text.setText(QStringLiteral("/x/a.png"));
+        QVERIFY(!dropOn(&area, text));
+
+        QMimeData empty;
+        empty.setData(QStringLiteral("text/uri-list"), QByteArray());
+        QVERIFY(dropOn(&area, empty));
+        QCOMPARE(dropped.count(), 0);
+        QVERIFY(button(area, "PushButton")->isVisible());
+        QVERIFY(!area.text().isEmpty());
+
+        const QList<QUrl> urls = {photos.add(QStringLiteral("b.png")),
+                                  photos.add(QStringLiteral("a.png"))};
+        QSignalSpy items(&area, &CreatorDropArea::updateItems);
+        QVERIFY(dropUrls(&area, urls));
+        QCOMPARE(dropped.count(), 1);
+        QCOMPARE(items.at(0).at(0).value<QList<QUrl>>(), urls);
+        QCOMPARE(area.currentFile(), urls.first().toLocalFile());
+        QVERIFY(!button(area, "PushButton")->isVisible());
+        QVERIFY(area.text().isEmpty());
+        QCOMPARE(CommonData::instance()->count(), 2);
+        QCOMPARE(CommonData::instance()->currentName(), QStringLiteral("b"));
+
+        QVERIFY(dropUrls(&area, {urls.at(1)}));
+        QCOMPARE(CommonData::instance()->count(), 1);
+    }
+
+    void stepsAndWraps()
+    {
+        Photos photos;
+        CreatorDropArea area(nullptr, nullptr);
+        QSignalSpy index(&area, &CreatorDropArea::indexChanged);
+        area.slotNext();
+        area.slotPreviuos();
+        area.slotGotoFirst();
+        area.slotItemClicked(0);
+        QCOMPARE(index.count(), 0);
+
+        area.setFiles({photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
+                       photos.add(QStringLiteral("c.png"))});
+        area.slotPreviuos();
+        QCOMPARE(CommonData::instance()->currentIndex(), 2);
+        area.slotNext();
+        QCOMPARE(CommonData::instance()->currentIndex(), 0);
+        area.slotNext();
+        area.slotGotoFirst();
+        QCOMPARE(index.count(), 4);
+        QCOMPARE(index.last().first().toInt(), 0);
+        area.slotItemClicked(2);
+        QCOMPARE(CommonData::instance()->currentName(), QStringLiteral("c"));
+        QCOMPARE(index.count(), 4);
+        area.slotItemClicked(3);
+        QCOMPARE(CommonData::instance()->currentIndex(), 2);
+    }
+
+    void arrowsAndCounterShowUnderTheMouseOnly()
+    {
+        Photos photos;
+        CreatorDropArea area(nullptr, nullptr);
+        area.show();
+        QEvent enter(QEvent::Enter);
+        QEvent leave(QEvent::Leave);
+        area.setFiles({photos.add(QStringLiteral("a.png"))});
+        QCoreApplication::sendEvent(&area, &enter);
+        QVERIFY(!button(area, "NextImageButton")->isVisible());
+
+        area.setFiles({photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png"))});
+        QCoreApplication::sendEvent(&area, &enter);
+        QVERIFY(button(area, "NextImageButton")->isVisible());
+        QVERIFY(button(area, "PreviousImageButton")->isVisible());
+        button(area, "NextImageButton")->click();
+        QCOMPARE(shownTexts(area), QStringLiteral("<CENTER><H1>2 of 2</H1></CENTER>"));
+        QCoreApplication::sendEvent(&area, &leave);
+        QVERIFY(!button(area, "NextImageButton")->isVisible());
+        QCOMPARE(shownTexts(area), QString());
+    }
+
+    void keepsWhatCannotBeRead()
+    {
+        Photos photos;
+        CreatorDropArea area(nullptr, nullptr);
+        const QUrl good = photos.add(QStringLiteral("good.png"));
+        const QUrl truncated = photos.addFile(QStringLiteral("cut.png"), QByteArray("\x89PNG\r\n"));
+        area.setFiles({photos.addFolder(QStringLiteral("folder")),
+                       QUrl(QStringLiteral("http://photos.example/a.png")), truncated, good});
+        QCOMPARE(CommonData::instance()->count(), 4);
+        area.slotNext();
+        QCOMPARE(area.currentFile(), QString());
+        area.slotNext();
+        QCOMPARE(area.currentFile(), truncated.toLocalFile());
+        area.slotNext();
+        QCOMPARE(area.currentFile(), good.toLocalFile());
+    }
+};
+
+TESSARIN_TEST(TestCreatorDropArea);
+#include "tst_CreatorDropArea.moc"

@@ -71,12 +71,6 @@ BatchDialog::BatchDialog()
     layout->addLayout(buttons);
 }
 
-BatchDialog::~BatchDialog()
-{
-    slotStop();
-    m_thread.wait();
-}
-
 void BatchDialog::startBatch(const QVector<QPair<QString, QString>>& operations)
 {
     endFormerRun();

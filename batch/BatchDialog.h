@@ -24,9 +24,8 @@ class BatchDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// Its end stops a run that is under way and waits for the photo in hand.
     BatchDialog();
-    /// Stops a run that is under way and waits for the photo in hand.
-    ~BatchDialog() override;
 
     /// Starts a run over all photos with the output settings as they stand, into a new folder; the
     /// caller then calls exec(). A former run that still has its last photo in hand is waited for.

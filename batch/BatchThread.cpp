@@ -17,6 +17,8 @@ BatchThread::BatchThread()
 
 BatchThread::~BatchThread()
 {
+    m_worker->requestStop();
+    quit();
     wait();
     delete m_worker;
 }

@@ -11,7 +11,7 @@ class BatchThread : public QThread
 
 public:
     BatchThread();
-    /// Waits for the thread; the caller has asked it to stop and quit.
+    /// Stops a run that is under way and waits for the photo in hand.
     ~BatchThread() override;
 
     BatchWorker* worker() const { return m_worker; }

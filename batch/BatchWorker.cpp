@@ -46,7 +46,9 @@ void BatchWorker::slotDoWork()
     const int total = m_photos.size();
     for (int index = 0; index < total && !m_stopped; ++index) {
         // Deliberate: a stop during a pause still lets the photo in hand through.
-        waitWhilePaused();
+        while (m_paused && !m_stopped) {
+            nap();
+        }
         const QString file = m_photos.at(index).toLocalFile();
         const QImage image = process(file);
         emit updateInfo(image, index, total);
@@ -55,11 +57,9 @@ void BatchWorker::slotDoWork()
     emit finished();
 }
 
-void BatchWorker::waitWhilePaused() const
+void BatchWorker::nap()
 {
-    while (m_paused && !m_stopped) {
-        QThread::msleep(kPausePoll);
-    }
+    QThread::msleep(kPausePoll);
 }
 
 QImage BatchWorker::process(const QString& file) const

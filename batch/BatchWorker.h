@@ -44,8 +44,11 @@ signals:
     void updateInfo(const QImage& image, int index, int total);
     void finished();
 
+protected:
+    /// One round of waiting in a pause.
+    virtual void nap();
+
 private:
-    void waitWhilePaused() const;
     QImage process(const QString& file) const;
     QString resultName(int index);
     void save(const QImage& image, const QString& name) const;

@@ -24,6 +24,8 @@ bool saveResult(const QImage& image, const QString& file, const QByteArray& form
     if (image.save(&target, format.constData(), quality) && target.flush()) {
         return true;
     }
-    target.remove();
+    // Removing the open file would first flush it once more, and give up when that fails.
+    target.close();
+    QFile::remove(file);
     return false;
 }

@@ -77,7 +77,7 @@ QDomElement BaseNode::parametersElement(QDomDocument document)
 
 QString BaseNode::parametersText()
 {
-    QDomDocument document;
+    QDomDocument document{QString()};
     document.appendChild(parametersElement(document));
     return document.toString(1);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// A place in a grid of three by three, numbered in reading order.
-enum Direction {
+enum Direction : int {
     TopLeft,
     TopMiddle,
     TopRight,

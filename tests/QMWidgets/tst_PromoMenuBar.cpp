@@ -1,5 +1,5 @@
 #include "support/TestMain.h"
-#include "UrlCatcher.h"
+#include "support/UrlCatcher.h"
 
 #include <QAction>
 #include <QMenu>

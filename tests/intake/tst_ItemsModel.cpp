@@ -51,8 +51,8 @@ private slots:
     void thumbnailOfAnyReadableFile_data()
     {
         QTest::addColumn<QImage>("picture");
-        QTest::newRow("one pixel") << noise(QSize(1, 1), 1);
-        QTest::newRow("narrow") << noise(QSize(1, 2000), 1);
+        QTest::newRow("small") << noise(QSize(10, 10), 1);
+        QTest::newRow("narrow") << noise(QSize(40, 2000), 1);
         QTest::newRow("palette")
             << noise(QSize(80, 40), 1).convertToFormat(QImage::Format_Indexed8);
         QTest::newRow("grey") << noise(QSize(80, 40), 1).convertToFormat(QImage::Format_Grayscale8);
@@ -67,7 +67,17 @@ private slots:
         ItemsModel model;
         model.setItems({QUrl::fromLocalFile(file)});
         QCOMPARE(thumbnail(model, 0).size(), QSize(48, 48));
-        QVERIFY(qAlpha(thumbnail(model, 0).pixel(24, 24)) != 0);
+        QVERIFY(qAlpha(thumbnail(model, 0).pixel(23, 23)) != 0);
+    }
+
+    void aPictureOfAFewPixelsHasNone()
+    {
+        Photos photos;
+        ItemsModel model;
+        model.setItems({photos.add(QStringLiteral("dot.png"), QSize(1, 1)),
+                        photos.add(QStringLiteral("line.png"), QSize(1, 20000))});
+        QVERIFY(thumbnail(model, 0).isNull());
+        QVERIFY(thumbnail(model, 1).isNull());
     }
 
     void thumbnailsAreKeptUntilTheNextList()

@@ -1,0 +1,167 @@
+#include "app/MainPage.h"
+#include "app/Startup.h"
+#include "flow/BaseNode.h"
+#include "flow/ComboSlider.h"
+#include "flow/NodesTabBar.h"
+#include "intake/CreatorDropArea.h"
+#include "preview/ImagePreview.h"
+#include "reference/ToneReference.h"
+#include "support/DropEvents.h"
+#include "support/ImageCompare.h"
+#include "support/Photos.h"
+#include "support/TestMain.h"
+#include "support/UrlCatcher.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QGroupBox>
+#include <QMenu>
+#include <QMWidgets/App.h>
+#include <QMWidgets/DropWidget.h>
+#include <QPushButton>
+#include <QStackedWidget>
+
+namespace
+{
+
+/// The program, put together as main does.
+class Program
+{
+public:
+    Program()
+    {
+        setUpApplication(*QMWidgets::App::app());
+        page = new MainPage(nullptr);
+        dropWindow = new QMWidgets::DropWidget(nullptr);
+        openProgram(*QMWidgets::App::app(), *page, *dropWindow);
+    }
+    ~Program()
+    {
+        delete dropWindow;
+        delete page;
+    }
+
+    void add(const char* operation)
+    {
+        auto* const menu = page->findChild<QMenu*>(QStringLiteral("FlowPanelMenu"));
+        for (QAction* action : menu->actions()) {
+            if (action->text() == QLatin1String(operation)) {
+                action->trigger();
+            }
+        }
+    }
+
+    /// The page of the node in hand.
+    QWidget* node() { return page->findChild<QStackedWidget*>()->currentWidget(); }
+    QPushButton* button(const char* name)
+    {
+        return page->findChild<QPushButton*>(QLatin1String(name));
+    }
+    QImage shownResult()
+    {
+        QMWidgets::Label* const preview = page->findChild<ImagePreview*>();
+        return preview->pixmap().toImage();
+    }
+
+    /// Presses "Save Results" and waits for the run; gives its folder.
+    QDir saveResults()
+    {
+        UrlCatcher opened;
+        button("RunBatchButton")->click();
+        const QList<QUrl> urls = opened.take();
+        return urls.size() == 1 ? QDir(urls.first().toLocalFile())
+                                : QDir(QStringLiteral("missing"));
+    }
+
+    MainPage* page;
+    QMWidgets::DropWidget* dropWindow;
+};
+
+QByteArray checksum(const QUrl& url)
+{
+    QFile file(url.toLocalFile());
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
+}
+
+void set(const char* key, const QVariant& value)
+{
+    QMWidgets::App::app()->setSettingsValue(QLatin1String(key), value);
+}
+
+} // namespace
+
+class TestEndToEnd : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fromDroppedPhotosToAFolderOfResults()
+    {
+        Photos photos;
+        const QList<QUrl> urls = {photos.add(QStringLiteral("wide.png"), QSize(900, 600), 1),
+                                  photos.add(QStringLiteral("tall.bmp"), QSize(301, 901), 2),
+                                  photos.addFile(QStringLiteral("broken.png"), "no picture"),
+                                  photos.add(QStringLiteral("dot.png"), QSize(1, 1), 3)};
+        QList<QByteArray> checksums;
+        for (const QUrl& url : urls) {
+            checksums += checksum(url);
+        }
+
+        Program program;
+        QVERIFY(QFile::exists(QDir::homePath() + QStringLiteral("/Tessarin/Flows/sample.flow")));
+        QVERIFY(program.dropWindow->isVisible());
+        QVERIFY(!program.page->isVisible());
+        QVERIFY(dropUrls(program.dropWindow, urls));
+        QVERIFY(!program.dropWindow->isVisible());
+        QVERIFY(program.page->isVisible());
+
+        program.add("Grayscale");
+        program.add("Brightness, Contrast, Saturation");
+        program.node()->findChildren<ComboSlider*>().at(0)->setValue(40);
+        program.node()->findChildren<ComboSlider*>().at(2)->setValue(30);
+        program.add("Invert");
+        QTest::keyClick(program.node()->findChild<QGroupBox*>(), Qt::Key_Space);
+        program.add("Binarization");
+        program.page->findChild<NodesTabBar*>()->moveTab(1, 0);
+
+        const auto expected = [](const QUrl& url) {
+            const QImage photo = QImage(url.toLocalFile()).convertToFormat(QImage::Format_ARGB32);
+            const QImage toned = reference::brightnessContrastSaturation(photo, 40, 0, 30 / 50.0f);
+            return reference::binarize(reference::grayscale(toned), 127);
+        };
+        program.button("NextImageButton")->click();
+        QCOMPARE(program.shownResult().height(), 360);
+        program.page->findChild<ImagePreview*>()
+            ->findChild<QPushButton*>(QStringLiteral("PreviousImageButton"))
+            ->click();
+        QCOMPARE(program.shownResult().width(), 360);
+
+        set("KeyFormat", QStringLiteral("PNG"));
+        set("KeyRename", false);
+        const QDir results = program.saveResults();
+        QCOMPARE(results.entryList(QDir::Files, QDir::Name),
+                 QStringList({"dot.png", "tall.png", "wide.png"}));
+        for (const char* name : {"wide", "tall", "dot"}) {
+            const int index =
+                urls.indexOf(*std::find_if(urls.begin(), urls.end(), [name](const QUrl& url) {
+                    return url.fileName().startsWith(QLatin1String(name));
+                }));
+            const QImage saved(results.filePath(QLatin1String(name) + QStringLiteral(".png")));
+            QCOMPARE(saved.convertToFormat(QImage::Format_ARGB32), expected(urls.at(index)));
+        }
+
+        set("KeyFormat", QStringLiteral("BMP"));
+        set("KeyRename", true);
+        set("KeyNumbers", 1);
+        const QDir renamed = program.saveResults();
+        QCOMPARE(renamed.entryList({QStringLiteral("*.bmp")}, QDir::Files, QDir::Name),
+                 QStringList({"NewName1.bmp", "NewName3.bmp", "NewName7.bmp"}));
+        for (int i = 0; i < urls.size(); ++i) {
+            QCOMPARE(checksum(urls.at(i)), checksums.at(i));
+        }
+    }
+};
+
+TESSARIN_TEST(TestEndToEnd);
+#include "tst_EndToEnd.moc"

@@ -1,0 +1,204 @@
+#include "batch/BatchThread.h"
+#include "batch/BatchWorker.h"
+#include "support/ImageCompare.h"
+#include "support/Photos.h"
+#include "support/TestMain.h"
+
+#include <MGraphX/GraphX.h>
+#include <QDir>
+#include <QRegularExpression>
+#include <QSet>
+#include <QSignalSpy>
+
+using MGraphX::GraphX;
+
+namespace
+{
+
+/// A job of the worker with a folder for its results.
+struct Job {
+    QString format = QStringLiteral("PNG");
+    bool rename = false;
+    QString newName = QStringLiteral("out");
+    int numbers = 0;
+    BatchWorker::Operations operations;
+
+    void giveTo(BatchWorker& worker, const QList<QUrl>& photos) const
+    {
+        worker.setJob(format, -1, rename, newName, numbers, results.folder() + '/', photos,
+                      operations);
+    }
+
+    QStringList files() const { return QDir(results.folder()).entryList(QDir::Files, QDir::Name); }
+
+    Photos results;
+};
+
+/// A worker that is stopped in its third round of waiting.
+class StoppedInPause : public BatchWorker
+{
+protected:
+    void nap() override
+    {
+        if (++m_naps == 3) {
+            requestStop();
+        }
+    }
+
+private:
+    int m_naps = 0;
+};
+
+} // namespace
+
+class TestBatchWorker : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void appliesTheOperationsInOrder()
+    {
+        Photos photos;
+        const QUrl photo = photos.add(QStringLiteral("a.png"), QSize(33, 21), 4);
+        Job job;
+        job.operations = {
+            {QStringLiteral("Grayscale"), QString()},
+            {QStringLiteral("Sharpen"), QStringLiteral("<P/>")},
+            {QStringLiteral("Binarization"), QStringLiteral("<P><Threshold>90</Threshold></P>")}};
+        BatchWorker worker;
+        job.giveTo(worker, {photo});
+        QSignalSpy info(&worker, &BatchWorker::updateInfo);
+        worker.slotDoWork();
+
+        const QImage source = QImage(photo.toLocalFile()).convertToFormat(QImage::Format_ARGB32);
+        const QImage expected = GraphX::binarize(GraphX::grayscale(source), 90);
+        COMPARE_IMAGES(info.first().first().value<QImage>(), expected);
+        QCOMPARE(QImage(job.results.path(QStringLiteral("a.png"))), expected);
+    }
+
+    void numbersTheFiles_data()
+    {
+        QTest::addColumn<int>("numbers");
+        QTest::addColumn<QStringList>("files");
+        QTest::newRow("all") << 0 << QStringList({"out0.bmp", "out1.bmp", "out3.bmp"});
+        QTest::newRow("odd") << 1 << QStringList({"out1.bmp", "out3.bmp", "out7.bmp"});
+        QTest::newRow("even") << 2 << QStringList({"out2.bmp", "out4.bmp", "out8.bmp"});
+        QTest::newRow("unknown") << 3 << QStringList({"a.bmp", "b.c.bmp", "d.bmp"});
+    }
+
+    void numbersTheFiles()
+    {
+        QFETCH(int, numbers);
+        Photos photos;
+        Job job;
+        job.format = QStringLiteral("BMP");
+        job.rename = true;
+        job.numbers = numbers;
+        const QList<QUrl> urls = {photos.add(QStringLiteral("a.png")),
+                                  photos.add(QStringLiteral("b.c.png")),
+                                  photos.addFile(QStringLiteral("bad.png"), "no picture"),
+                                  photos.add(QStringLiteral("d.png"))};
+        BatchWorker worker;
+        for (int run = 0; run < 2; ++run) {
+            job.giveTo(worker, urls);
+            worker.slotDoWork();
+            QTEST(job.files(), "files");
+        }
+    }
+
+    void whatCannotBeReadOrWrittenIsPassedOver()
+    {
+        Photos photos;
+        const QUrl deleted = photos.add(QStringLiteral("deleted.png"));
+        QVERIFY(QFile::remove(deleted.toLocalFile()));
+        const QList<QUrl> urls = {photos.add(QStringLiteral("good one.png")),
+                                  deleted,
+                                  photos.addFile(QStringLiteral("empty.png"), QByteArray()),
+                                  photos.addFolder(QStringLiteral("folder")),
+                                  QUrl(QStringLiteral("http://photos.example/remote.png")),
+                                  photos.add(QString::fromUtf8("写真 ż.png")),
+                                  photos.add(QStringLiteral(".png"), QSize(1, 1)),
+                                  photos.add(QStringLiteral("tall.png"), QSize(1, 20000))};
+        Job job;
+        BatchWorker worker;
+        job.giveTo(worker, urls);
+        QSignalSpy info(&worker, &BatchWorker::updateInfo);
+        QSignalSpy finished(&worker, &BatchWorker::finished);
+        worker.slotDoWork();
+        QCOMPARE(info.count(), urls.size());
+        QCOMPARE(info.last().at(1).toInt(), urls.size() - 1);
+        QCOMPARE(finished.count(), 1);
+        const QStringList results =
+            QDir(job.results.folder()).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
+        QCOMPARE(QSet<QString>(results.begin(), results.end()),
+                 QSet<QString>({QStringLiteral("good one.png"), QString::fromUtf8("写真 ż.png"),
+                                QStringLiteral(".png"), QStringLiteral("tall.png")}));
+        QCOMPARE(QImage(job.results.path(QStringLiteral("tall.png"))).size(), QSize(1, 20000));
+    }
+
+    void eachFailureLeavesOneLineInTheLog()
+    {
+        Photos photos;
+        Job job;
+        job.rename = true;
+        job.newName = QStringLiteral("../escaped");
+        BatchWorker worker;
+        job.giveTo(worker, {photos.add(QStringLiteral("a.png")),
+                            photos.addFile(QStringLiteral("bad.png"), "no picture")});
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression("^Can't write the result .*escaped0"));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Can't read the photo .*bad.png$"));
+        worker.slotDoWork();
+        QCOMPARE(job.files(), QStringList());
+        QVERIFY(!QFile::exists(job.results.path(QStringLiteral("../escaped0.png"))));
+    }
+
+    void aStopEndsTheRunBetweenPhotos()
+    {
+        Photos photos;
+        Job job;
+        BatchWorker worker;
+        job.giveTo(worker,
+                   {photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
+                    photos.add(QStringLiteral("c.png"))});
+        connect(&worker, &BatchWorker::updateInfo, &worker, [&worker](const QImage&, int index) {
+            if (index == 1) {
+                worker.requestStop();
+            }
+        });
+        QSignalSpy finished(&worker, &BatchWorker::finished);
+        worker.slotDoWork();
+        QCOMPARE(job.files(), QStringList({"a.png", "b.png"}));
+        QCOMPARE(finished.count(), 1);
+    }
+
+    void aStopDuringAPauseLetsThePhotoInHandThrough()
+    {
+        Photos photos;
+        Job job;
+        StoppedInPause worker;
+        job.giveTo(worker,
+                   {photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
+                    photos.add(QStringLiteral("c.png"))});
+        connect(&worker, &BatchWorker::updateInfo, &worker, [&worker] { worker.setPaused(true); });
+        worker.slotDoWork();
+        QCOMPARE(job.files(), QStringList({"a.png", "b.png"}));
+    }
+
+    void aThreadLeftBeforeTheWorkEndsTheRunAllTheSame()
+    {
+        Photos photos;
+        Job job;
+        BatchThread thread;
+        job.giveTo(*thread.worker(), {photos.add(QStringLiteral("a.png"))});
+        QSignalSpy finished(thread.worker(), &BatchWorker::finished);
+        thread.start();
+        thread.quit();
+        QTRY_COMPARE(finished.count(), 1);
+        QVERIFY(thread.wait());
+        QCOMPARE(job.files(), QStringList());
+    }
+};
+
+TESSARIN_TEST(TestBatchWorker);
+#include "tst_BatchWorker.moc"

@@ -91,8 +91,8 @@ def networks():
 def pictures():
     bar = {"Help": glyphs.question, "share": glyphs.share, "join": glyphs.join,
            "settings": glyphs.sliders}
-    yield from family(bar, 52, 32, 22, HOVER_ONLY)
-    yield from family({"MoreAppsButton": glyphs.bag, "RateButton": glyphs.star}, 60, 32, 22, HOVER_ONLY)
+    yield from family(bar, 52, 32, 25, HOVER_ONLY)
+    yield from family({"MoreAppsButton": glyphs.bag, "RateButton": glyphs.star}, 60, 32, 24, HOVER_ONLY)
     # These two open menus: the sheet puts the menu arrow along their lower edge.
     yield from family({"More": glyphs.tiles, "AppButton": glyphs.burger}, 60, 32, 20, HOVER_ONLY,
                       raise_by=2.0)

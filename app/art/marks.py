@@ -3,8 +3,8 @@
 import math
 
 import glyphs
-from buttons import plate, sign
-from canvas import ACCENT, COAL, INK, circle, group, line, path, rect
+from buttons import sign
+from canvas import ACCENT, COAL, INK, circle, group, lifted, line, path, rect
 
 
 def point(radius, degrees):
@@ -42,7 +42,9 @@ def program_sign(plain=False):
     that comes through. The plain one fills the whole field and is for small sizes."""
     glow = (
         '<defs><radialGradient id="light"><stop offset="0" stop-color="#fff3da"/><stop offset=".5" '
-        f'stop-color="#ffc766"/><stop offset="1" stop-color="{ACCENT}"/></radialGradient></defs>'
+        f'stop-color="#ffc766"/><stop offset="1" stop-color="{ACCENT}"/></radialGradient>'
+        '<linearGradient id="edge" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#ffffff" '
+        'stop-opacity=".5"/><stop offset="1" stop-color="#ffffff" stop-opacity="0"/></linearGradient></defs>'
     )
     lens = group(
         circle(0, 0, 97, fill=COAL),
@@ -55,7 +57,8 @@ def program_sign(plain=False):
     return glow + "".join(
         [
             rect(10, 10, 236, 236, 52, fill="url(#slate)", stroke="#0c0c0c", stroke_width=4),
-            rect(54, 13, 148, 3, 1.5, fill="#ffffff", fill_opacity=0.3),
+            path("M20 62A42 42 0 0 1 62 14H194A42 42 0 0 1 236 62", fill="none", stroke="url(#edge)",
+                 stroke_width=3),
             lens,
         ]
     )
@@ -141,8 +144,8 @@ PRODUCTS = {
 
 
 def product(draw):
-    state = ("#5c5c5c", "#242424", "#0c0c0c", 0.3, INK, ACCENT)
-    return plate(64, 64, state, 14) + sign(draw, state, 10, 10, 44, 3.2)
+    """Without a plate, and bold: the catalogue shows these in menu rows at 16 pixels."""
+    return lifted(sign(draw, (0, 0, 0, 0, INK, ACCENT), 4, 3, 56, 5))
 
 
 def pictures():

@@ -87,10 +87,8 @@ void BatchDialog::startBatch(const QVector<QPair<QString, QString>>& operations)
 /// signals on their way. Both have to arrive before the next run, or they would end that one.
 void BatchDialog::endFormerRun()
 {
-    if (m_thread.isRunning()) {
-        slotStop();
-        m_thread.wait();
-    }
+    slotStop();
+    m_thread.waitUntilLeft();
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 

@@ -19,13 +19,22 @@ BatchThread::~BatchThread()
 {
     m_worker->requestStop();
     quit();
-    wait();
+    waitUntilLeft();
     delete m_worker;
+}
+
+void BatchThread::waitUntilLeft()
+{
+    wait();
+    Q_ASSERT(m_left);
+    static_cast<void>(m_left.load());
 }
 
 void BatchThread::run()
 {
+    m_left = false;
     QTimer::singleShot(kStartDelay, m_worker, &BatchWorker::slotDoWork);
     exec();
     m_worker->endUnstartedRun();
+    m_left = true;
 }

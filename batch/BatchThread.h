@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <QThread>
 
 class BatchWorker;
@@ -15,10 +16,15 @@ public:
     ~BatchThread() override;
 
     BatchWorker* worker() const { return m_worker; }
+    /// Waits until the thread stands still, as QThread::wait() does.
+    void waitUntilLeft();
 
 protected:
     void run() override;
 
 private:
     BatchWorker* m_worker;
+    /// Says by the language's own means what the toolkit's locks say too: that all of a run lies
+    /// before what follows the waiting. Race detectors can't look into those locks.
+    std::atomic<bool> m_left{true};
 };

@@ -4,6 +4,7 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
+#include <atomic>
 #include <MGraphX/GraphX.h>
 #include <QDir>
 #include <QRegularExpression>
@@ -191,11 +192,14 @@ private slots:
         Job job;
         BatchThread thread;
         job.giveTo(*thread.worker(), {photos.add(QStringLiteral("a.png"))});
-        QSignalSpy finished(thread.worker(), &BatchWorker::finished);
+        std::atomic<int> finished{0};
+        connect(
+            thread.worker(), &BatchWorker::finished, thread.worker(), [&finished] { ++finished; },
+            Qt::DirectConnection);
         thread.start();
         thread.quit();
-        QTRY_COMPARE(finished.count(), 1);
-        QVERIFY(thread.wait());
+        thread.waitUntilLeft();
+        QCOMPARE(finished.load(), 1);
         QCOMPARE(job.files(), QStringList());
     }
 };

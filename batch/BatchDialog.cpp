@@ -23,7 +23,7 @@ namespace
 /// Makes the folder of a run that starts now.
 QString makeRunFolder()
 {
-    const QString folder =
+    QString folder =
         QMWidgets::App::app()->defaultOutputFolder(true) +
         QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss")) +
         QLatin1Char('/');

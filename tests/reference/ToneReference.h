@@ -2,8 +2,8 @@
 
 #include <QImage>
 
-/// The filters of tone and colour as plain loops, pixel by pixel: what each operation of GraphX with
-/// the same name has to give, bit for bit.
+/// The filters of tone and colour as plain loops, pixel by pixel: what each operation of GraphX
+/// with the same name has to give, bit for bit.
 namespace reference
 {
 

@@ -43,6 +43,27 @@ public:
     /// stands for, and comes out premultiplied.
     static QImage invert(const QImage& image);
 
+    /// Cuts away a share of each side, in percent, each rounded down to whole pixels. A negative
+    /// share adds pixels; they get what QImage::pixel answers outside an image.
+    /// Shape: what is left, in the format of the source.
+    /// Errors: a null image if nothing is left.
+    static QImage crop(const QImage& image, int left, int right, int top, int bottom);
+
+    /// A quarter turn clockwise, half a turn, and a quarter turn anticlockwise, off by one pixel:
+    /// the first column (90), the first row (270) or both (180) hold what QImage::pixel answers
+    /// outside an image, and the source's first row, first column or both are lost.
+    /// Shape: sides exchanged but for 180; the format of the source.
+    static QImage rotate90(const QImage& image);
+    static QImage rotate180(const QImage& image);
+    static QImage rotate270(const QImage& image);
+
+    /// QImage::mirrored.
+    static QImage mirror(const QImage& image, bool horizontal, bool vertical);
+
+    /// Puts a border of `color` around the image, on all four sides `widthPercent` of its width. A
+    /// negative width cuts away as much. Shape: larger by twice the border, the source's format.
+    static QImage frame(const QImage& image, int widthPercent, const QColor& color);
+
     /// Scales the image smoothly to fit into `size` and centres it on `background`.
     /// Shape: `size`, the format of the source; an image with a palette comes out as Format_ARGB32.
     static QImage fitInto(const QImage& image, const QSize& size, const QColor& background);

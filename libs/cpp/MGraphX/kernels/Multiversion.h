@@ -6,3 +6,11 @@
 #ifndef MGRAPHX_MULTIVERSION
 #define MGRAPHX_MULTIVERSION
 #endif
+
+// A helper of such functions. It must go into each clone: what is called instead of inlined runs
+// with the baseline's instructions.
+#ifdef __GNUC__
+#define MGRAPHX_INLINE inline __attribute__((always_inline))
+#else
+#define MGRAPHX_INLINE inline
+#endif

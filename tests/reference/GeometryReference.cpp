@@ -1,0 +1,75 @@
+#include "reference/GeometryReference.h"
+
+#include <MGraphX/ImageLike.h>
+
+namespace reference
+{
+
+QImage crop(const QImage& image, int left, int right, int top, int bottom)
+{
+    const int x0 = left * image.width() / 100;
+    const int y0 = top * image.height() / 100;
+    const int height = image.height() - (image.height() * bottom / 100 + y0);
+    const int width = image.width() - (image.width() * right / 100 + x0);
+    QImage result = MGraphX::imageLike(image, {width, height}, image.format());
+    for (int y = 0; y < result.height(); ++y) {
+        for (int x = 0; x < result.width(); ++x) {
+            result.setPixel(x, y, image.pixel(x0 + x, y0 + y));
+        }
+    }
+    return result;
+}
+
+QImage rotate90(const QImage& image)
+{
+    QImage result = MGraphX::imageLike(image, {image.height(), image.width()}, image.format());
+    for (int y = 0; y < result.height(); ++y) {
+        for (int x = 0; x < result.width(); ++x) {
+            result.setPixel(x, y, image.pixel(y, image.height() - x));
+        }
+    }
+    return result;
+}
+
+QImage rotate180(const QImage& image)
+{
+    QImage result = MGraphX::imageLike(image, image.size(), image.format());
+    for (int y = 0; y < result.height(); ++y) {
+        for (int x = 0; x < result.width(); ++x) {
+            result.setPixel(x, y, image.pixel(image.width() - x, image.height() - y));
+        }
+    }
+    return result;
+}
+
+QImage rotate270(const QImage& image)
+{
+    QImage result = MGraphX::imageLike(image, {image.height(), image.width()}, image.format());
+    for (int y = 0; y < result.height(); ++y) {
+        for (int x = 0; x < result.width(); ++x) {
+            result.setPixel(x, y, image.pixel(image.width() - y, x));
+        }
+    }
+    return result;
+}
+
+QImage frame(const QImage& image, int widthPercent, const QColor& color)
+{
+    const int border = image.width() * widthPercent / 100;
+    const QSize size(image.width() + 2 * border, image.height() + 2 * border);
+    QImage result = MGraphX::imageLike(image, size, image.format());
+    if (result.isNull()) {
+        return result;
+    }
+    result.fill(color);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (result.rect().contains(x + border, y + border)) {
+                result.setPixel(x + border, y + border, image.pixel(x, y));
+            }
+        }
+    }
+    return result;
+}
+
+} // namespace reference

@@ -1,0 +1,64 @@
+#include "Options.h"
+
+#include <QDateTime>
+#include <QDir>
+
+namespace
+{
+
+QString defaultFolder()
+{
+    return QDir::temp().filePath(
+        QStringLiteral("tessarin-tour-") +
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss")));
+}
+
+} // namespace
+
+Options Options::read(int argc, char** argv)
+{
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const QString word = QString::fromLocal8Bit(argv[i]);
+        const bool takesValue = word == QLatin1String("--only") || word == QLatin1String("--out");
+        const QString value =
+            takesValue && i + 1 < argc ? QString::fromLocal8Bit(argv[i + 1]) : QString();
+        if (takesValue && value.isEmpty()) {
+            options.error = word + QStringLiteral(" needs a value");
+            return options;
+        }
+        i += takesValue ? 1 : 0;
+        if (word == QLatin1String("--only")) {
+            options.only += value.split(QLatin1Char(','), Qt::SkipEmptyParts);
+        } else if (word == QLatin1String("--out")) {
+            options.out = QDir(value).absolutePath();
+        } else if (word == QLatin1String("--list")) {
+            options.list = true;
+        } else if (word == QLatin1String("--keep-photos")) {
+            options.keepPhotos = true;
+        } else if (word == QLatin1String("--help") || word == QLatin1String("-h")) {
+            options.help = true;
+        } else {
+            options.error = QStringLiteral("What is %1?").arg(word);
+        }
+    }
+    if (options.out.isEmpty()) {
+        options.out = defaultFolder();
+    }
+    return options;
+}
+
+QString Options::usage()
+{
+    return QStringLiteral(
+        "tessarin_tour [--only NAME,...] [--out FOLDER] [--keep-photos] [--list]\n"
+        "\n"
+        "Paints sample photos, drives the program through its main job with mouse and keys,\n"
+        "and takes pictures of its windows on the way.\n"
+        "\n"
+        "  --only NAME,...  these scenes only\n"
+        "  --out FOLDER     where everything goes; a new folder among the temporary files if\n"
+        "                   it is missing\n"
+        "  --keep-photos    take the photos that the folder holds from an earlier tour\n"
+        "  --list           name the scenes and end\n");
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the command line asks for.
+struct Options {
+    QStringList only; ///< names of scenes; empty means all
+    QString out;      ///< folder of the photos, the results and the pictures
+    bool list = false;
+    bool keepPhotos = false; ///< take the photos that the folder holds from an earlier tour
+    bool help = false;
+    QString error; ///< what is wrong with the command line, or empty
+
+    static Options read(int argc, char** argv);
+    static QString usage();
+};

@@ -1,0 +1,44 @@
+#include "Scene.h"
+
+#include "scenes/Scenes.h"
+
+#include <algorithm>
+
+const QVector<Scene>& scenes()
+{
+    static const QVector<Scene> all = {
+        {QStringLiteral("drop"), QStringLiteral("Drop photos on the window"), dropPhotos},
+        {QStringLiteral("add"), QStringLiteral("Add operations to the flow"), addOperations},
+        {QStringLiteral("tune"), QStringLiteral("Tune an operation"), tuneOperation},
+        {QStringLiteral("step"), QStringLiteral("Step through the photos"), stepThroughPhotos},
+        {QStringLiteral("order"), QStringLiteral("Order, switch off and remove operations"),
+         orderOperations},
+        {QStringLiteral("menus"), QStringLiteral("All menus"), showMenus},
+        {QStringLiteral("settings"), QStringLiteral("Choose format and names"), chooseSettings},
+        {QStringLiteral("operations"), QStringLiteral("Each operation with its options"),
+         showEachOperation},
+        {QStringLiteral("save"), QStringLiteral("Save the results"), saveResults},
+        {QStringLiteral("rename"), QStringLiteral("Save the results under new names"), saveRenamed},
+    };
+    return all;
+}
+
+QVector<Scene> scenesNamed(const QStringList& names)
+{
+    QVector<Scene> chosen;
+    for (const Scene& scene : scenes()) {
+        if (names.isEmpty() || names.contains(scene.name)) {
+            chosen.append(scene);
+        }
+    }
+    return chosen;
+}
+
+QStringList unknownNames(const QStringList& names)
+{
+    QStringList unknown = names;
+    for (const Scene& scene : scenes()) {
+        unknown.removeAll(scene.name);
+    }
+    return unknown;
+}

@@ -1,0 +1,237 @@
+#include "Stage.h"
+
+#include "app/MainPage.h"
+#include "app/Startup.h"
+#include "Attendant.h"
+#include "flow/NodesOptionsPanel.h"
+#include "intake/CommonData.h"
+#include "intake/ItemsModel.h"
+#include <QMWidgets/DropWidget.h>
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QUrl>
+
+namespace
+{
+
+constexpr int kPatience = 30000; // milliseconds
+
+QMWidgets::App* makeApp(int& argc, char** argv)
+{
+    prepareProcess();
+    return new QMWidgets::App(argc, argv, kOrganizationName, kApplicationName);
+}
+
+} // namespace
+
+struct Stage::Program {
+    MainPage page{nullptr};
+    QMWidgets::DropWidget dropWindow{nullptr};
+};
+
+Stage::Stage(int& argc, char** argv, const QStringList& photos, const QString& pictures)
+    : m_photos(photos),
+      m_app(makeApp(argc, argv)),
+      m_camera(pictures)
+{
+    m_complaints.listenToToolkit();
+    // Windows close and open between the scenes.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    setUpApplication(*m_app);
+}
+
+Stage::~Stage()
+{
+    m_program.reset();
+}
+
+void Stage::open(const QString& sceneName)
+{
+    m_complaints.setScene(sceneName);
+    m_camera.startScene(sceneName);
+    m_program.reset();
+    CommonData* const data = CommonData::instance();
+    data->model()->setItems({});
+    data->setCount(0);
+    data->setCurrentIndex(0);
+    data->setCurrentName(QString());
+    m_result = QImage();
+    m_resultCount = 0;
+
+    m_program = std::make_unique<Program>();
+    openProgram(*m_app, m_program->page, m_program->dropWindow);
+    const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+    m_program->page.move(corner);
+    QObject::connect(find<NodesOptionsPanel>(), &NodesOptionsPanel::imageChanged, page(),
+                     [this](const QImage& image) {
+                         m_result = image;
+                         ++m_resultCount;
+                     });
+    check(QTest::qWaitForWindowExposed(dropWindow()), QStringLiteral("the drop window opens"));
+}
+
+MainPage* Stage::page() const
+{
+    return &m_program->page;
+}
+
+const QWidget* Stage::pageWidget() const
+{
+    return page();
+}
+
+QMWidgets::DropWidget* Stage::dropWindow() const
+{
+    return &m_program->dropWindow;
+}
+
+bool Stage::check(bool holds, const QString& what)
+{
+    if (!holds) {
+        m_complaints.add(what);
+    }
+    return holds;
+}
+
+bool Stage::waitFor(const Condition& condition, const QString& what)
+{
+    return check(QTest::qWaitFor(condition, kPatience), QStringLiteral("waited in vain: ") + what);
+}
+
+void Stage::drop(const QStringList& paths, QWidget* target)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& path : paths) {
+        urls.append(QUrl::fromLocalFile(path));
+    }
+    data.setUrls(urls);
+    const QPoint place = target->rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(target, &enter);
+    if (check(enter.isAccepted(), QStringLiteral("a drag of photos is accepted"))) {
+        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &event);
+    }
+}
+
+void Stage::dropPhotos()
+{
+    expectResult([this] { drop(m_photos, dropWindow()); }, QStringLiteral("the first photo"));
+    check(QTest::qWaitForWindowExposed(page()), QStringLiteral("the page opens"));
+    check(!dropWindow()->isVisible(), QStringLiteral("the drop window goes"));
+}
+
+void Stage::expectResult(const std::function<void()>& act, const QString& what)
+{
+    const int before = m_resultCount;
+    act();
+    waitFor([this, before] { return m_resultCount > before; }, what);
+}
+
+void Stage::click(QWidget* widget)
+{
+    if (widget &&
+        check(widget->isEnabled(), widget->objectName() + QStringLiteral(" is enabled"))) {
+        m_pointer.click(widget);
+    }
+}
+
+void Stage::hover(QWidget* widget)
+{
+    if (widget) {
+        m_pointer.moveTo(widget);
+    }
+}
+
+void Stage::press(QWidget* widget, Qt::Key key)
+{
+    if (widget) {
+        QTest::keyClick(widget, key);
+    }
+}
+
+void Stage::withMenu(QPushButton* button, const MenuAct& act)
+{
+    if (!button) {
+        return;
+    }
+    QMenu* const menu = button->menu();
+    if (!check(menu, button->objectName() + QStringLiteral(" has a menu"))) {
+        return;
+    }
+    Attendant attendant(
+        QStringLiteral("the menu of ") + button->objectName(), [menu] { return menu; },
+        [menu, &act](QWidget*) {
+            act(menu);
+            menu->close();
+        },
+        m_complaints);
+    click(button);
+}
+
+void Stage::withDialog(QPushButton* button, const QString& what, const DialogAct& act)
+{
+    if (button) {
+        Attendant attendant(what, &QApplication::activeModalWidget, act, m_complaints);
+        click(button);
+    }
+}
+
+void Stage::chooseEntry(QMenu* menu, const QString& text)
+{
+    for (QAction* const action : menu->actions()) {
+        if (action->text() != text) {
+            continue;
+        }
+        const QPoint place = menu->actionGeometry(action).center();
+        if (menu->rect().contains(place)) {
+            m_pointer.click(menu, place);
+        } else {
+            // A menu that is higher than the screen scrolls.
+            menu->setActiveAction(action);
+            press(menu, Qt::Key_Return);
+        }
+        return;
+    }
+    check(false, QStringLiteral("the menu has an entry ") + text);
+}
+
+void Stage::chooseItem(QComboBox* box, const QString& text)
+{
+    const int row = box ? box->findText(text) : -1;
+    if (!check(row >= 0, QStringLiteral("there is a choice ") + text)) {
+        return;
+    }
+    m_pointer.click(box);
+    QAbstractItemView* const list = box->view();
+    if (!waitFor([list] { return list->isVisible(); }, QStringLiteral("the list of choices"))) {
+        return;
+    }
+    const int way = row - list->currentIndex().row();
+    for (int i = 0; i < qAbs(way); ++i) {
+        press(list, way > 0 ? Qt::Key_Down : Qt::Key_Up);
+    }
+    press(list, Qt::Key_Return);
+    waitFor([box, list, &text] { return !list->isVisible() && box->currentText() == text; },
+            QStringLiteral("the choice of ") + text);
+}
+
+void Stage::shoot(const QString& name, QWidget* widget)
+{
+    check(m_camera.shoot(name, widget ? widget : page()), QStringLiteral("picture ") + name);
+}
+
+void Stage::shootTogether(const QString& name, const QWidgetList& windows)
+{
+    check(m_camera.shootTogether(name, windows), QStringLiteral("picture ") + name);
+}

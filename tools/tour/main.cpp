@@ -1,0 +1,84 @@
+#include "Options.h"
+#include "OwnHome.h"
+#include "photos/SamplePhotos.h"
+#include "Results.h"
+#include "Scene.h"
+#include "Stage.h"
+
+#include <cstdio>
+#include <QDir>
+
+namespace
+{
+
+enum ExitCode { AllWell, SomethingFailed, NothingDone };
+
+void say(const QString& text)
+{
+    std::printf("%s\n", qUtf8Printable(text));
+    std::fflush(stdout);
+}
+
+void listScenes()
+{
+    for (const Scene& scene : scenes()) {
+        say(QStringLiteral("%1  %2").arg(scene.name, -12).arg(scene.title));
+    }
+}
+
+QStringList makePhotos(const Options& options)
+{
+    say(QStringLiteral("Painting the sample photos"));
+    const QString folder = QDir(options.out).filePath(QStringLiteral("photos"));
+    return QDir().mkpath(folder) ? writeSamplePhotos(folder, options.keepPhotos) : QStringList();
+}
+
+int play(Stage& stage, const Options& options)
+{
+    for (const Scene& scene : scenesNamed(options.only)) {
+        say(QStringLiteral("%1: %2").arg(scene.name, scene.title));
+        stage.open(scene.name);
+        scene.run(stage);
+    }
+    say(QStringLiteral("%1 pictures in %2")
+            .arg(stage.camera().count())
+            .arg(QDir(options.out).filePath(QStringLiteral("pictures"))));
+    say(QStringLiteral("Results in %1").arg(resultsFolder()));
+    const int failed = stage.complaints().all().size();
+    say(failed ? QStringLiteral("%1 failures").arg(failed) : QStringLiteral("All went well"));
+    return failed ? SomethingFailed : AllWell;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const Options options = Options::read(argc, argv);
+    const QStringList unknown = unknownNames(options.only);
+    if (!options.error.isEmpty() || !unknown.isEmpty()) {
+        const QString fault =
+            options.error.isEmpty()
+                ? QStringLiteral("No scene %1").arg(unknown.join(QLatin1Char(',')))
+                : options.error;
+        std::fprintf(stderr, "%s\n\n%s", qUtf8Printable(fault), qUtf8Printable(Options::usage()));
+        return NothingDone;
+    }
+    if (options.help || options.list) {
+        options.help ? say(Options::usage()) : listScenes();
+        return AllWell;
+    }
+    const QDir out(options.out);
+    if (!OwnHome::moveInto(out.filePath(QStringLiteral("home")))) {
+        std::fprintf(stderr, "No home of its own in %s\n", qUtf8Printable(options.out));
+        return NothingDone;
+    }
+    const QStringList photos = makePhotos(options);
+    if (photos.isEmpty()) {
+        std::fprintf(stderr, "Can't write photos into %s\n", qUtf8Printable(options.out));
+        return NothingDone;
+    }
+    // One word of the command line is enough for the toolkit: the others are the tour's own.
+    int words = 1;
+    Stage stage(words, argv, photos, out.filePath(QStringLiteral("pictures")));
+    return play(stage, options);
+}

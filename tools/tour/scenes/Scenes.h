@@ -1,0 +1,14 @@
+#pragma once
+
+class Stage;
+
+void dropPhotos(Stage& stage);
+void addOperations(Stage& stage);
+void tuneOperation(Stage& stage);
+void stepThroughPhotos(Stage& stage);
+void orderOperations(Stage& stage);
+void showMenus(Stage& stage);
+void chooseSettings(Stage& stage);
+void showEachOperation(Stage& stage);
+void saveResults(Stage& stage);
+void saveRenamed(Stage& stage);

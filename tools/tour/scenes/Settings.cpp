@@ -1,0 +1,84 @@
+#include "batch/AppSettingsDialog.h"
+#include "scenes/Scenes.h"
+#include "scenes/SettingsSteps.h"
+#include "Stage.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+QComboBox* boxWith(const QWidget* dialog, const QString& item)
+{
+    for (QComboBox* const box : dialog->findChildren<QComboBox*>()) {
+        if (box->findText(item) >= 0) {
+            return box;
+        }
+    }
+    return nullptr;
+}
+
+void endDialog(Stage& stage, const QWidget* dialog, const QString& caption)
+{
+    for (QPushButton* const button : dialog->findChildren<QPushButton*>()) {
+        if (button->text() == caption) {
+            stage.click(button);
+            return;
+        }
+    }
+    stage.check(false, QStringLiteral("there is a button ") + caption);
+}
+
+void withSettings(Stage& stage, const std::function<void(QWidget* dialog)>& act)
+{
+    stage.withDialog(stage.find<QPushButton>(QStringLiteral("SettingsButton")),
+                     QStringLiteral("the settings"), act);
+}
+
+void setRenaming(Stage& stage, const QWidget* dialog, const QString& newName)
+{
+    QGroupBox* renameBox = nullptr;
+    for (QGroupBox* const box : dialog->findChildren<QGroupBox*>()) {
+        renameBox = box->isCheckable() ? box : renameBox;
+    }
+    auto* const edit = dialog->findChild<QLineEdit*>();
+    if (!stage.check(renameBox && edit, QStringLiteral("photos can be renamed"))) {
+        return;
+    }
+    if (renameBox->isChecked() == newName.isEmpty()) {
+        stage.press(renameBox, Qt::Key_Space);
+    }
+    if (!newName.isEmpty()) {
+        stage.pointer().click(edit);
+        edit->selectAll();
+        QTest::keyClicks(edit, newName);
+    }
+}
+
+void chooseSettings(Stage& stage)
+{
+    stage.dropPhotos();
+    withSettings(stage, [&stage](QWidget* dialog) {
+        stage.shoot(QStringLiteral("dialog"), dialog);
+        QComboBox* const formats = boxWith(dialog, QStringLiteral("TIFF"));
+        stage.click(formats);
+        if (stage.waitFor([formats] { return formats->view()->isVisible(); },
+                          QStringLiteral("the list of formats"))) {
+            QWidget* const list = formats->view()->window();
+            stage.shootTogether(QStringLiteral("formats"), {dialog, list});
+            stage.press(formats->view(), Qt::Key_Escape);
+        }
+        stage.chooseItem(formats, QStringLiteral("PNG"));
+        setRenaming(stage, dialog, QStringLiteral("Holiday "));
+        stage.chooseItem(boxWith(dialog, QStringLiteral("Odd")), QStringLiteral("Odd"));
+        stage.shoot(QStringLiteral("renaming"), dialog);
+        stage.shootTogether(QStringLiteral("page"), {stage.page(), dialog});
+        endDialog(stage, dialog, QStringLiteral("Ok"));
+    });
+    stage.check(AppSettingsDialog::keyFormat() == QLatin1String("PNG") &&
+                    AppSettingsDialog::keyRename() && AppSettingsDialog::keyNumbers() == 1,
+                QStringLiteral("the settings are kept"));
+}

@@ -1,3 +1,4 @@
+#include "app/MainPage.h"
 #include "batch/AppSettingsDialog.h"
 #include "scenes/Scenes.h"
 #include "scenes/SettingsSteps.h"

@@ -5,6 +5,7 @@
 #include "Stage.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -45,7 +46,11 @@ void setRenaming(Stage& stage, const QWidget* dialog, const QString& newName)
     for (QGroupBox* const box : dialog->findChildren<QGroupBox*>()) {
         renameBox = box->isCheckable() ? box : renameBox;
     }
-    auto* const edit = dialog->findChild<QLineEdit*>();
+    QLineEdit* edit = nullptr;
+    for (QLineEdit* const one : dialog->findChildren<QLineEdit*>()) {
+        // A spin box holds an edit of its own.
+        edit = qobject_cast<QAbstractSpinBox*>(one->parent()) ? edit : one;
+    }
     if (!stage.check(renameBox && edit, QStringLiteral("photos can be renamed"))) {
         return;
     }
@@ -56,6 +61,7 @@ void setRenaming(Stage& stage, const QWidget* dialog, const QString& newName)
         stage.pointer().click(edit);
         edit->selectAll();
         QTest::keyClicks(edit, newName);
+        stage.check(edit->text() == newName, QStringLiteral("the new name can be typed"));
     }
 }
 
@@ -80,6 +86,7 @@ void chooseSettings(Stage& stage)
         endDialog(stage, dialog, QStringLiteral("Ok"));
     });
     stage.check(AppSettingsDialog::keyFormat() == QLatin1String("PNG") &&
-                    AppSettingsDialog::keyRename() && AppSettingsDialog::keyNumbers() == 1,
+                    AppSettingsDialog::keyRename() && AppSettingsDialog::keyNumbers() == 1 &&
+                    AppSettingsDialog::keyNewName() == QLatin1String("Holiday "),
                 QStringLiteral("the settings are kept"));
 }

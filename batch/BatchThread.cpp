@@ -1,6 +1,7 @@
 #include "batch/BatchThread.h"
 
 #include "batch/BatchWorker.h"
+#include <MGraphX/HeapPolicy.h>
 
 #include <QTimer>
 
@@ -36,5 +37,6 @@ void BatchThread::run()
     QTimer::singleShot(kStartDelay, m_worker, &BatchWorker::slotDoWork);
     exec();
     m_worker->endUnstartedRun();
+    MGraphX::releaseHeap();
     m_left = true;
 }

@@ -1,6 +1,7 @@
 #include "Pointer.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QPointer>
 #include <QTest>
 #include <QWidget>
@@ -25,8 +26,12 @@ QPoint inWindow(const QWidget* widget, const QPoint& place)
 
 void Pointer::moveTo(QWidget* widget, const QPoint& place)
 {
-    // The system's pointer goes along, or it would send hover events of its own.
-    QCursor::setPos(widget->mapToGlobal(place));
+    // The system's pointer goes along, or it would send hover events of its own. It can't leave the
+    // screen, while a large window may.
+    const QPoint global = widget->mapToGlobal(place);
+    if (QGuiApplication::screenAt(global)) {
+        QCursor::setPos(global);
+    }
     QTest::mouseMove(windowOf(widget), inWindow(widget, place));
 }
 

@@ -20,14 +20,14 @@ constexpr int kStillness = 1500; // milliseconds, in which a paused batch has to
 /// Pauses a running batch, looks whether it stands still, and lets it go on.
 void pauseAndResume(Stage& stage, QWidget* dialog)
 {
+    stage.shoot(QStringLiteral("started"), dialog);
     auto* const pause = stage.find<QPushButton>(QStringLiteral("BatchPauseButton"), dialog);
     auto* const progress = stage.find<QProgressBar>(dialog);
     if (!pause || !progress) {
         return;
     }
-    stage.shoot(QStringLiteral("started"), dialog);
+    // Pictures take their time, so the batch is paused before any is taken.
     stage.waitFor([progress] { return progress->value() > 0; }, QStringLiteral("the batch runs"));
-    stage.shootTogether(QStringLiteral("running"), {stage.page(), dialog});
     stage.click(pause);
     stage.check(pause->text() == QLatin1String("Resume"), QStringLiteral("the button resumes"));
 
@@ -41,7 +41,12 @@ void pauseAndResume(Stage& stage, QWidget* dialog)
         QStringLiteral("the pause holds"));
     stage.check(dialog->isVisible(), QStringLiteral("a paused batch stays open"));
     stage.shoot(QStringLiteral("paused"), dialog);
+
+    const int pausedAt = progress->value();
     stage.click(pause);
+    stage.waitFor([progress, pausedAt] { return progress->value() > pausedAt; },
+                  QStringLiteral("the batch goes on"));
+    stage.shootTogether(QStringLiteral("running"), {stage.page(), dialog});
 }
 
 /// Runs a batch and gives the folder of its results; empty if there is none.

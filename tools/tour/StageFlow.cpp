@@ -46,6 +46,18 @@ QPoint checkPlace(const QGroupBox* box)
         .center();
 }
 
+/// The picture of a tab that a drag moves about in front of the bar: its only child that is no
+/// label and no button.
+const QWidget* hangingTab(const QWidget* tabBar)
+{
+    for (const QWidget* const part : tabBar->findChildren<QWidget*>()) {
+        if (part->isVisible() && part->metaObject() == &QWidget::staticMetaObject) {
+            return part;
+        }
+    }
+    return nullptr;
+}
+
 BaseNode* shownNode(const QWidget* page)
 {
     for (BaseNode* const node : page->findChildren<BaseNode*>()) {
@@ -114,6 +126,7 @@ void Stage::dragOperation(int from, int to, const std::function<void()>& onTheWa
         },
         QStringLiteral("the result in the new order"));
     check(operationNames() == expected, QStringLiteral("a drag moves a tab"));
+    waitFor([this] { return !hangingTab(tabBar()); }, QStringLiteral("the dragged tab settles"));
 }
 
 void Stage::switchOperation()

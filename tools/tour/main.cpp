@@ -33,12 +33,11 @@ QStringList makePhotos(const Options& options)
     return QDir().mkpath(folder) ? writeSamplePhotos(folder, options.keepPhotos) : QStringList();
 }
 
-/// The platform without a screen claims 100 dots to the inch, which would scale every picture by an
-/// odd factor. An environment that says otherwise is left alone.
+/// Screens claim all kinds of density, which would scale the pictures by odd factors. Here only
+/// QT_SCALE_FACTOR counts, unless the environment asks for something else.
 void evenOutDensity()
 {
-    const bool noScreen = qgetenv("QT_QPA_PLATFORM").startsWith("offscreen");
-    if (noScreen && !qEnvironmentVariableIsSet("QT_FONT_DPI")) {
+    if (!qEnvironmentVariableIsSet("QT_FONT_DPI")) {
         qputenv("QT_FONT_DPI", "96");
     }
 }

@@ -62,13 +62,11 @@ private slots:
         }
         QFETCH(QSize, size);
         Photos photos;
-        // The toolkit's own writers of the plainer formats lose a row's memory then.
-        for (const char* format : {"JPEG", "PNG"}) {
-            const QString file = photos.path(QLatin1String(format));
-            QVERIFY(QFile::link(full, file));
-            QVERIFY2(!saveResult(noise(size, 1), file, format, -1), format);
-            QVERIFY2(!QFile::exists(file), format);
-        }
+        // The toolkit's writers of other formats lose a row's memory when they fail.
+        const QString file = photos.path(QStringLiteral("a.jpeg"));
+        QVERIFY(QFile::link(full, file));
+        QVERIFY(!saveResult(noise(size, 1), file, "JPEG", -1));
+        QVERIFY(!QFile::exists(file));
         QVERIFY(QFile::exists(full));
     }
 };

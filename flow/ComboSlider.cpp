@@ -5,6 +5,11 @@
 #include <QSlider>
 #include <QSpinBox>
 
+namespace
+{
+constexpr int kSpinBoxWidth = 60;
+} // namespace
+
 ComboSlider::ComboSlider(const QString& caption, QWidget* parent)
     : QFrame(parent),
       m_label(new QLabel(caption, this)),
@@ -16,6 +21,8 @@ ComboSlider::ComboSlider(const QString& caption, QWidget* parent)
     m_unitLabel->hide();
     m_slider->setTickPosition(QSlider::TicksBothSides);
     m_slider->setTickInterval(20);
+    // Spin boxes of different ranges stand under each other in forms.
+    m_spinBox->setMinimumWidth(kSpinBoxWidth);
     setFocusProxy(m_slider);
     setControlName(caption);
 

@@ -17,6 +17,12 @@ void ParameterNode::writeParameters(QDomElement& parameters, QDomDocument docume
     m_bindings.write(parameters, document);
 }
 
+namespace
+{
+/// Long enough for a step of one unit to be a movement of the hand.
+constexpr int kSliderWidth = 320;
+} // namespace
+
 ComboSlider* ParameterNode::addSlider(const SliderParameter& parameter, QFormLayout* form)
 {
     const QString caption =
@@ -30,6 +36,7 @@ ComboSlider* ParameterNode::addSlider(const SliderParameter& parameter, QFormLay
     slider->setValue(parameter.value);
     slider->setUnit(QLatin1String(parameter.unit));
     slider->setControlName(caption);
+    slider->setMinimumWidth(kSliderWidth);
     form->addRow(caption, slider);
     connect(slider, &ComboSlider::sliderMoved, this, &ParameterNode::parametersChanged);
     m_bindings.bind(parameter.tag, slider);

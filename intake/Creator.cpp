@@ -41,7 +41,8 @@ Creator::Creator(NodesOptionsPanel* panel, QWidget* parent)
     heading->addWidget(new QLabel(QStringLiteral("<H2><CENTER>Original</CENTER></H2>"), this));
     heading->addWidget(modeButton);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(3, 3, 3, 3);
+    // The square is as wide as the panel: a margin at its sides would cut it off.
+    layout->setContentsMargins(0, 3, 0, 3);
     layout->setSpacing(0);
     layout->addLayout(heading);
     layout->addWidget(m_dropArea);

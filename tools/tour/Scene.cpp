@@ -8,6 +8,8 @@ const QVector<Scene>& scenes()
 {
     static const QVector<Scene> all = {
         {QStringLiteral("drop"), QStringLiteral("Drop photos on the window"), dropPhotos},
+        {QStringLiteral("empty"), QStringLiteral("The page before the first photo"),
+         openWithoutPhotos},
         {QStringLiteral("add"), QStringLiteral("Add operations to the flow"), addOperations},
         {QStringLiteral("tune"), QStringLiteral("Tune an operation"), tuneOperation},
         {QStringLiteral("step"), QStringLiteral("Step through the photos"), stepThroughPhotos},
@@ -19,6 +21,7 @@ const QVector<Scene>& scenes()
          showEachOperation},
         {QStringLiteral("save"), QStringLiteral("Save the results"), saveResults},
         {QStringLiteral("rename"), QStringLiteral("Save the results under new names"), saveRenamed},
+        {QStringLiteral("unreadable"), QStringLiteral("Save what can be read"), saveReadable},
     };
     return all;
 }

@@ -1,12 +1,11 @@
 #include "Stage.h"
 
-#include "app/MainPage.h"
 #include "app/Startup.h"
 #include "Attendant.h"
 #include "flow/NodesOptionsPanel.h"
 #include "intake/CommonData.h"
 #include "intake/ItemsModel.h"
-#include <QMWidgets/DropWidget.h>
+#include <QMWidgets/PromoMenuBar.h>
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -129,6 +128,7 @@ void Stage::dropPhotos()
     expectResult([this] { drop(m_photos, dropWindow()); }, QStringLiteral("the first photo"));
     check(QTest::qWaitForWindowExposed(page()), QStringLiteral("the page opens"));
     check(!dropWindow()->isVisible(), QStringLiteral("the drop window goes"));
+    restPointer();
 }
 
 void Stage::expectResult(const std::function<void()>& act, const QString& what)
@@ -151,6 +151,11 @@ void Stage::hover(QWidget* widget)
     if (widget) {
         m_pointer.moveTo(widget);
     }
+}
+
+void Stage::restPointer()
+{
+    hover(find<QMWidgets::PromoMenuBar>());
 }
 
 void Stage::press(QWidget* widget, Qt::Key key)

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "app/MainPage.h"
 #include "Camera.h"
 #include "Complaints.h"
 #include "Pointer.h"
 #include "UrlTrap.h"
 #include <QMWidgets/App.h>
+#include <QMWidgets/DropWidget.h>
 
 #include <functional>
 #include <memory>
@@ -12,16 +14,10 @@
 #include <QPointer>
 #include <QStringList>
 
-class MainPage;
 class NodesTabBar;
 class QComboBox;
 class QMenu;
 class QPushButton;
-
-namespace QMWidgets
-{
-class DropWidget;
-}
 
 /// The program, put together as its own main does it, and the hands that work it.
 ///
@@ -74,6 +70,8 @@ public:
     void dropPhotos();
     void click(QWidget* widget);
     void hover(QWidget* widget);
+    /// Takes the mouse to a place of the page where nothing answers it.
+    void restPointer();
     void press(QWidget* widget, Qt::Key key);
     /// Clicks the button, does `act` in the menu that opens, and closes what is still open.
     void withMenu(QPushButton* button, const MenuAct& act);

@@ -1,6 +1,5 @@
 #include "Stage.h"
 
-#include "app/MainPage.h"
 #include "flow/BaseNode.h"
 #include "flow/NodesTabBar.h"
 

@@ -11,6 +11,9 @@
 namespace
 {
 
+const QString kPhotosFolder = QStringLiteral("photos");
+const QString kPicturesFolder = QStringLiteral("pictures");
+
 enum ExitCode { AllWell, SomethingFailed, NothingDone };
 
 void say(const QString& text)
@@ -29,7 +32,7 @@ void listScenes()
 QStringList makePhotos(const Options& options)
 {
     say(QStringLiteral("Painting the sample photos"));
-    const QString folder = QDir(options.out).filePath(QStringLiteral("photos"));
+    const QString folder = QDir(options.out).filePath(kPhotosFolder);
     return QDir().mkpath(folder) ? writeSamplePhotos(folder, options.keepPhotos) : QStringList();
 }
 
@@ -49,11 +52,13 @@ int play(Stage& stage, const Options& options)
         stage.open(scene.name);
         scene.run(stage);
     }
-    say(QStringLiteral("%1 pictures in %2")
+    const QDir out(options.out);
+    say(QStringLiteral("Photos: %1").arg(out.filePath(kPhotosFolder)));
+    say(QStringLiteral("Results: %1").arg(resultsFolder()));
+    say(QStringLiteral("%1 pictures: %2")
             .arg(stage.camera().count())
-            .arg(QDir(options.out).filePath(QStringLiteral("pictures"))));
-    say(QStringLiteral("Results in %1").arg(resultsFolder()));
-    const int failed = stage.complaints().all().size();
+            .arg(out.filePath(kPicturesFolder)));
+    const int failed = stage.complaints().count();
     say(failed ? QStringLiteral("%1 failures").arg(failed) : QStringLiteral("All went well"));
     return failed ? SomethingFailed : AllWell;
 }
@@ -89,6 +94,6 @@ int main(int argc, char** argv)
     evenOutDensity();
     // One word of the command line is enough for the toolkit: the others are the tour's own.
     int words = 1;
-    Stage stage(words, argv, photos, out.filePath(QStringLiteral("pictures")));
+    Stage stage(words, argv, photos, out.filePath(kPicturesFolder));
     return play(stage, options);
 }

@@ -1,4 +1,3 @@
-#include "app/MainPage.h"
 #include "scenes/Scenes.h"
 #include "Stage.h"
 

@@ -1,4 +1,3 @@
-#include "app/MainPage.h"
 #include "photos/SamplePhotos.h"
 #include "Results.h"
 #include "scenes/Scenes.h"
@@ -7,6 +6,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QProgressBar>
 #include <QPushButton>
@@ -115,4 +115,22 @@ void saveRenamed(Stage& stage)
         number += 2;
     }
     checkResults(stage, folder, expected);
+}
+
+void saveReadable(Stage& stage)
+{
+    const QString photo = stage.photos().last();
+    const QString text = QFileInfo(photo).absolutePath() + QStringLiteral("/No photo.jpg");
+    QFile file(text);
+    stage.check(file.open(QIODevice::WriteOnly) && file.write("no photo") > 0,
+                QStringLiteral("a file of another kind is there"));
+    file.close();
+    stage.drop({text, photo, photo + QStringLiteral(".gone")}, stage.dropWindow());
+    stage.addOperation(QStringLiteral("Grayscale"));
+    stage.shoot(QStringLiteral("page"));
+    const QString folder = runBatch(stage, [](QWidget*) {});
+    const QStringList results = QDir(folder).entryList(QDir::Files);
+    stage.check(!folder.isEmpty() && results.size() == 1,
+                QStringLiteral("only the photo has a result"));
+    QFile::remove(text);
 }

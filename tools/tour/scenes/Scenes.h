@@ -3,6 +3,7 @@
 class Stage;
 
 void dropPhotos(Stage& stage);
+void openWithoutPhotos(Stage& stage);
 void addOperations(Stage& stage);
 void tuneOperation(Stage& stage);
 void stepThroughPhotos(Stage& stage);
@@ -12,3 +13,4 @@ void chooseSettings(Stage& stage);
 void showEachOperation(Stage& stage);
 void saveResults(Stage& stage);
 void saveRenamed(Stage& stage);
+void saveReadable(Stage& stage);

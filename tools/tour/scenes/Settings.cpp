@@ -1,4 +1,3 @@
-#include "app/MainPage.h"
 #include "batch/AppSettingsDialog.h"
 #include "scenes/Scenes.h"
 #include "scenes/SettingsSteps.h"

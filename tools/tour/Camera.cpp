@@ -14,6 +14,11 @@ void Camera::startScene(const QString& name)
 {
     m_scene = name;
     m_number = 0;
+    // Pictures of an earlier tour would pass for new ones.
+    const QStringList old = m_folder.entryList({name + QStringLiteral("-*.png")}, QDir::Files);
+    for (const QString& file : old) {
+        m_folder.remove(file);
+    }
 }
 
 bool Camera::shoot(const QString& name, QWidget* widget)

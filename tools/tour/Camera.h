@@ -10,6 +10,7 @@ class Camera
 public:
     explicit Camera(const QString& folder);
 
+    /// Takes the scene's older pictures away.
     void startScene(const QString& name);
     /// The file's name becomes scene, number and `name`. Errors: false if there is no picture or it
     /// can't be written.

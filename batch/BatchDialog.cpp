@@ -23,10 +23,9 @@ namespace
 /// Makes the folder of a run that starts now.
 QString makeRunFolder()
 {
-    QString folder =
-        QMWidgets::App::app()->defaultOutputFolder(true) +
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss")) +
-        QLatin1Char('/');
+    QString folder = QMWidgets::App::app()->defaultOutputFolder(true) +
+                     QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss")) +
+                     QLatin1Char('/');
     QDir().mkpath(folder);
     return folder;
 }

@@ -2,7 +2,9 @@
 
 #include "flow/ComboSlider.h"
 #include "flow/ParameterReader.h"
+#include <QMWidgets/ColorWidget.h>
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDomDocument>
 
@@ -19,6 +21,21 @@ void ParameterBindings::bind(const char* tag, ComboSlider* slider)
 void ParameterBindings::bind(const char* tag, QComboBox* box)
 {
     bindNumber(tag, box, &QComboBox::setCurrentIndex, &QComboBox::currentIndex);
+}
+
+void ParameterBindings::bind(const char* tag, QAbstractButton* button)
+{
+    bind(
+        tag,
+        [button](const QString& text) { button->setChecked(ParameterReader::readYesNo(text)); },
+        [button] { return ParameterReader::yesNo(button->isChecked()); });
+}
+
+void ParameterBindings::bind(const char* tag, QMWidgets::ColorWidget* swatch)
+{
+    bind(
+        tag, [swatch](const QString& text) { swatch->setColor(ParameterReader::readColor(text)); },
+        [swatch] { return swatch->color().name(); });
 }
 
 template <class Control>

@@ -5,11 +5,17 @@
 #include <QString>
 #include <QVector>
 
+class QAbstractButton;
 class QComboBox;
 class QDomDocument;
 class QDomElement;
 class QDomNode;
 class ComboSlider;
+
+namespace QMWidgets
+{
+class ColorWidget;
+}
 
 /// Ties a node's parameters to its controls: for each tag, how its text is applied and how it is
 /// told. Reading follows the order of the elements, writing the order of binding.
@@ -25,6 +31,10 @@ public:
     void bind(const char* tag, ComboSlider* slider);
     /// The current index; a number outside the box leaves it with no current item.
     void bind(const char* tag, QComboBox* box);
+    /// "yes" or "no", for a button that can be checked.
+    void bind(const char* tag, QAbstractButton* button);
+    /// The colour's name. A name that can't be read shows an invalid colour.
+    void bind(const char* tag, QMWidgets::ColorWidget* swatch);
 
     void read(const QDomNode& parameters) const;
     void write(QDomElement& parameters, QDomDocument document) const;

@@ -1,7 +1,9 @@
 #include "flow/ParameterNode.h"
 
+#include "flow/ColorParameter.h"
 #include "flow/ComboSlider.h"
 #include "flow/SliderParameter.h"
+#include <QMWidgets/ColorWidget.h>
 
 #include <QCoreApplication>
 #include <QDomDocument>
@@ -25,8 +27,7 @@ constexpr int kSliderWidth = 320;
 
 ComboSlider* ParameterNode::addSlider(const SliderParameter& parameter, QFormLayout* form)
 {
-    const QString caption =
-        QCoreApplication::translate(metaObject()->className(), parameter.caption);
+    const QString caption = translated(parameter.caption);
     auto* slider = new ComboSlider(QString(), nullptr);
     slider->setRange(parameter.minimum, parameter.maximum);
     slider->setTickInterval(parameter.tick);
@@ -41,4 +42,20 @@ ComboSlider* ParameterNode::addSlider(const SliderParameter& parameter, QFormLay
     connect(slider, &ComboSlider::sliderMoved, this, &ParameterNode::parametersChanged);
     m_bindings.bind(parameter.tag, slider);
     return slider;
+}
+
+QMWidgets::ColorWidget* ParameterNode::addColor(const ColorParameter& parameter, QFormLayout* form)
+{
+    auto* swatch = new QMWidgets::ColorWidget;
+    swatch->setFixedSize(64, 32);
+    swatch->setColor(parameter.value);
+    form->addRow(translated(parameter.caption), swatch);
+    connect(swatch, &QMWidgets::ColorWidget::colorChanged, this, &ParameterNode::parametersChanged);
+    m_bindings.bind(parameter.tag, swatch);
+    return swatch;
+}
+
+QString ParameterNode::translated(const char* caption) const
+{
+    return QCoreApplication::translate(metaObject()->className(), caption);
 }

@@ -4,7 +4,13 @@
 #include "flow/ParameterBindings.h"
 
 class ComboSlider;
+struct ColorParameter;
 struct SliderParameter;
+
+namespace QMWidgets
+{
+class ColorWidget;
+}
 
 /// A node whose parameters are tied to their controls: what is bound is read and written.
 class ParameterNode : public BaseNode
@@ -20,8 +26,12 @@ public:
 protected:
     /// Makes the parameter's slider, puts it into the form and binds it.
     ComboSlider* addSlider(const SliderParameter& parameter, QFormLayout* form);
+    /// The same for a colour and its swatch.
+    QMWidgets::ColorWidget* addColor(const ColorParameter& parameter, QFormLayout* form);
     ParameterBindings& bindings() { return m_bindings; }
 
 private:
+    QString translated(const char* caption) const;
+
     ParameterBindings m_bindings;
 };

@@ -3,6 +3,20 @@
 #include <QColor>
 #include <QDomDocument>
 
+namespace
+{
+
+template <class Use> void forEachText(const QString& xml, const char* tag, const Use& use)
+{
+    ParameterReader::forEachElement(xml, [&](const QString& name, const QString& text) {
+        if (name == QLatin1String(tag)) {
+            use(text);
+        }
+    });
+}
+
+} // namespace
+
 namespace ParameterReader
 {
 
@@ -44,6 +58,27 @@ QColor readColor(const QString& text)
     QColor color;
     color.setNamedColor(text);
     return color;
+}
+
+int intValue(const QString& xml, const char* tag, int fallback)
+{
+    int value = fallback;
+    forEachText(xml, tag, [&value](const QString& text) { readInt(text, value); });
+    return value;
+}
+
+bool yesNoValue(const QString& xml, const char* tag, bool fallback)
+{
+    bool value = fallback;
+    forEachText(xml, tag, [&value](const QString& text) { value = readYesNo(text); });
+    return value;
+}
+
+QColor colorValue(const QString& xml, const char* tag, const QColor& fallback)
+{
+    QColor value = fallback;
+    forEachText(xml, tag, [&value](const QString& text) { value = readColor(text); });
+    return value;
 }
 
 QString yesNo(bool value)

@@ -29,6 +29,12 @@ bool readYesNo(const QString& text);
 /// A colour's name, as in "#00ff00". Errors: an invalid colour.
 QColor readColor(const QString& text);
 
+/// What a parameter text tells for one tag, the last time if it tells it several times; `fallback`
+/// where it tells nothing. A colour that can't be read is told as an invalid one.
+int intValue(const QString& xml, const char* tag, int fallback);
+bool yesNoValue(const QString& xml, const char* tag, bool fallback);
+QColor colorValue(const QString& xml, const char* tag, const QColor& fallback);
+
 /// "yes" or "no".
 QString yesNo(bool value);
 

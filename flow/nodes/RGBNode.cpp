@@ -41,13 +41,7 @@ void RGBNode::process(QImage& image)
 
 QImage RGBNode::processFromXml(const QImage& image, const QString& xml)
 {
-    int mode = 0;
-    ParameterReader::forEachElement(xml, [&mode](const QString& tag, const QString& text) {
-        if (tag == QLatin1String(kModeTag)) {
-            ParameterReader::readInt(text, mode);
-        }
-    });
-    return applyMode(image, mode);
+    return applyMode(image, ParameterReader::intValue(xml, kModeTag, 0));
 }
 
 QImage RGBNode::applyMode(const QImage& image, int mode)

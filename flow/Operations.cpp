@@ -2,10 +2,16 @@
 
 #include "flow/nodes/BCSNode.h"
 #include "flow/nodes/BINNode.h"
+#include "flow/nodes/CRPNode.h"
+#include "flow/nodes/FRMNode.h"
 #include "flow/nodes/GRSNode.h"
 #include "flow/nodes/HSTNode.h"
 #include "flow/nodes/INVNode.h"
+#include "flow/nodes/MRRNode.h"
 #include "flow/nodes/RGBNode.h"
+#include "flow/nodes/RSZNode.h"
+#include "flow/nodes/RTTNode.h"
+#include "flow/nodes/UCSNode.h"
 #include <MGraphX/GraphX.h>
 
 #include <algorithm>
@@ -31,8 +37,20 @@ QVector<Operation> makeOperations()
     return {
         {QStringLiteral("Brightness, Contrast, Saturation"), QStringLiteral("Icon_BRT.png"),
          create<BCSNode>, BCSNode::processFromXml},
+        {QStringLiteral("Crop"), QStringLiteral("Icon_CRP.png"), create<CRPNode>,
+         CRPNode::processFromXml},
+        {QStringLiteral("Resize"), QStringLiteral("Icon_RSZ.png"), create<RSZNode>,
+         RSZNode::processFromXml},
+        {QStringLiteral("Rotate"), QStringLiteral("Icon_RTT.png"), create<RTTNode>,
+         RTTNode::processFromXml},
+        {QStringLiteral("Mirror"), QStringLiteral("Icon_MRR.png"), create<MRRNode>,
+         MRRNode::processFromXml},
         {QStringLiteral("Histogram optimizer"), QStringLiteral("Icon_HST.png"), create<HSTNode>,
          HSTNode::processFromXml},
+        {QStringLiteral("Vignetting"), QStringLiteral("Icon_WGN.png"), create<UCSNode>,
+         UCSNode::processFromXml},
+        {QStringLiteral("Frame"), QStringLiteral("Icon_FRM.png"), create<FRMNode>,
+         FRMNode::processFromXml},
         {QStringLiteral("RGB-Order"), QStringLiteral("Icon_RGB.png"), create<RGBNode>,
          RGBNode::processFromXml},
         {QStringLiteral("Invert"), QStringLiteral("Icon_INV.png"), create<INVNode>,
@@ -45,9 +63,18 @@ QVector<Operation> makeOperations()
 }
 
 /// The order in which nodeIcon looks: a text that holds several names gets the icon of the first.
-const char* const kIconOrder[] = {"Binarization",        "Brightness, Contrast, Saturation",
-                                  "Histogram optimizer", "Invert",
-                                  "RGB-Order",           "Grayscale"};
+const char* const kIconOrder[] = {"Binarization",
+                                  "Brightness, Contrast, Saturation",
+                                  "Crop",
+                                  "Frame",
+                                  "Histogram optimizer",
+                                  "Invert",
+                                  "Mirror",
+                                  "RGB-Order",
+                                  "Resize",
+                                  "Rotate",
+                                  "Vignetting",
+                                  "Grayscale"};
 
 } // namespace
 

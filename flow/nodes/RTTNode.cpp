@@ -1,0 +1,86 @@
+#include "flow/nodes/RTTNode.h"
+
+#include "flow/ParameterReader.h"
+#include <MGraphX/GraphX.h>
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+using MGraphX::GraphX;
+
+namespace
+{
+
+constexpr char kAngleTag[] = "Angle";
+constexpr int kQuarter = 90;
+constexpr int kMostAngle = 270;
+
+} // namespace
+
+RTTNode::RTTNode(const QString& name, QWidget* parent)
+    : ParameterNode(name, parent),
+      m_rightButton(new QPushButton),
+      m_leftButton(new QPushButton)
+{
+    setNodeIcon(name);
+    m_rightButton->setObjectName(QStringLiteral("RotateRightButton"));
+    m_rightButton->setAccessibleName(tr("Rotate right"));
+    m_rightButton->setFlat(true);
+    m_leftButton->setObjectName(QStringLiteral("RotateLeftButton"));
+    m_leftButton->setAccessibleName(tr("Rotate left"));
+    m_leftButton->setFlat(true);
+
+    auto* layout = new QHBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_leftButton);
+    layout->addWidget(m_rightButton);
+    optionsLayout()->addLayout(layout);
+
+    connect(m_rightButton, &QPushButton::clicked, this, &RTTNode::slotRightClicked);
+    connect(m_leftButton, &QPushButton::clicked, this, &RTTNode::slotLeftClicked);
+    bindings().bind(
+        kAngleTag, [this](const QString& text) { ParameterReader::readInt(text, m_angle); },
+        [this] { return QString::number(m_angle, 10); });
+}
+
+void RTTNode::process(QImage& image)
+{
+    runFilter(image, [angle = m_angle](const QImage& source) { return applyAngle(source, angle); });
+}
+
+QImage RTTNode::processFromXml(const QImage& image, const QString& xml)
+{
+    return applyAngle(image, ParameterReader::intValue(xml, kAngleTag, 0));
+}
+
+QImage RTTNode::applyAngle(const QImage& image, int angle)
+{
+    switch (angle) {
+    case 90:
+    case -270:
+        return GraphX::rotate90(image);
+    case 180:
+    case -180:
+        return GraphX::rotate180(image);
+    case 270:
+    case -90:
+        return GraphX::rotate270(image);
+    default:
+        return image;
+    }
+}
+
+// A stored angle may be any number, so the bound is tested before the step is made.
+
+void RTTNode::slotRightClicked()
+{
+    m_angle = m_angle > kMostAngle - kQuarter ? 0 : m_angle + kQuarter;
+    emit parametersChanged();
+}
+
+void RTTNode::slotLeftClicked()
+{
+    m_angle = m_angle < kQuarter - kMostAngle ? 0 : m_angle - kQuarter;
+    emit parametersChanged();
+}

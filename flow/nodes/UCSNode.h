@@ -1,0 +1,27 @@
+#pragma once
+
+#include "flow/ParameterNode.h"
+
+/// Tints the photo from the centre to the edge. The radius (0 to 100, in percent of the longer
+/// side) tells where the full colour is reached, the opacity (0 to 100, in percent) how much of it
+/// covers the photo.
+class UCSNode : public ParameterNode
+{
+    Q_OBJECT
+
+public:
+    UCSNode(const QString& name, QWidget* parent);
+
+    void process(QImage& image) override;
+    static QImage processFromXml(const QImage& image, const QString& xml);
+
+    /// Paints a circle over a square as long as the longer side, stretched over the image. The
+    /// colour's alpha doesn't count, and an invalid one is black. Without opacity nothing changes.
+    /// Shape: as the source. Errors: a square that memory doesn't hold leaves the image as it is.
+    static QImage vignette(const QImage& image, int radius, int opacity, const QColor& color);
+
+private:
+    ComboSlider* m_radius;
+    ComboSlider* m_opacity;
+    QMWidgets::ColorWidget* m_color;
+};

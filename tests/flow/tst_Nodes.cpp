@@ -1,60 +1,35 @@
-#include "flow/BaseNode.h"
 #include "flow/ComboSlider.h"
-#include "flow/Operations.h"
+#include "intake/CommonData.h"
+#include "NodeTesting.h"
 #include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
-#include <memory>
+#include <QMWidgets/ColorWidget.h>
+
 #include <QComboBox>
-#include <QDomDocument>
 #include <QGroupBox>
+#include <QPushButton>
 #include <QSignalSpy>
 
 namespace
 {
 
-std::unique_ptr<BaseNode> makeNode(const char* name)
-{
-    const Operation* const operation = findOperation(QLatin1String(name));
-    return std::unique_ptr<BaseNode>(operation ? operation->create(operation->name) : nullptr);
-}
-
-void load(BaseNode& node, const QString& xml)
-{
-    QDomDocument document;
-    QVERIFY(document.setContent(xml));
-    node.loadParameters(document.documentElement());
-}
-
-/// The node's parameters as "tag=text" in the order of writing.
-QStringList written(BaseNode& node)
-{
-    QDomDocument document;
-    document.setContent(node.parametersText());
-    QStringList parameters;
-    for (QDomElement element = document.documentElement().firstChildElement(); !element.isNull();
-         element = element.nextSiblingElement()) {
-        parameters += element.tagName() + QLatin1Char('=') + element.text();
-    }
-    return parameters;
-}
-
-QImage processed(BaseNode& node, const QImage& source)
-{
-    QImage image = source;
-    node.process(image);
-    return image;
-}
-
 /// Moves every control of a node to another value; each round gives other ones.
 void moveControls(BaseNode& node, int round)
 {
+    for (QComboBox* box : node.findChildren<QComboBox*>()) {
+        box->setCurrentIndex(round % box->count());
+    }
     for (ComboSlider* slider : node.findChildren<ComboSlider*>()) {
         slider->setValue(slider->value() + 17 * round - 40);
     }
-    for (QComboBox* box : node.findChildren<QComboBox*>()) {
-        box->setCurrentIndex(round % box->count());
+    const auto buttons = node.findChildren<QPushButton*>();
+    if (!buttons.isEmpty()) {
+        buttons[round % buttons.size()]->click();
+    }
+    for (QMWidgets::ColorWidget* swatch : node.findChildren<QMWidgets::ColorWidget*>()) {
+        swatch->setColor(QColor::fromHsv(50 * round, 255 - 30 * round, 200));
     }
 }
 
@@ -76,7 +51,16 @@ private slots:
         row("Brightness, Contrast, Saturation",
             {QStringLiteral("Brightness=0"), QStringLiteral("Contrast=0"),
              QStringLiteral("Saturation=100")});
+        row("Crop", {QStringLiteral("Left=0"), QStringLiteral("Right=0"), QStringLiteral("Top=0"),
+                     QStringLiteral("Bottom=0")});
+        row("Resize",
+            {QStringLiteral("Mode=0"), QStringLiteral("Width=50"), QStringLiteral("Height=50")});
+        row("Rotate", {QStringLiteral("Angle=90")});
+        row("Mirror", {QStringLiteral("Horizontal=yes"), QStringLiteral("Vertical=no")});
         row("Histogram optimizer", {QStringLiteral("Left=0"), QStringLiteral("Right=0")});
+        row("Vignetting", {QStringLiteral("Radius=65"), QStringLiteral("Opacity=80"),
+                           QStringLiteral("Color=#000000")});
+        row("Frame", {QStringLiteral("Width=2"), QStringLiteral("Color=#00ff00")});
         row("RGB-Order", {QStringLiteral("Mode=0")});
         row("Invert", {});
         row("Binarization", {QStringLiteral("Threshold=127")});
@@ -167,11 +151,23 @@ private slots:
                 QVERIFY(changed.count() > expected);
                 expected = changed.count();
             }
+            for (QPushButton* button : node->findChildren<QPushButton*>()) {
+                button->click();
+                QCOMPARE(changed.count(), ++expected);
+            }
+            for (auto* swatch : node->findChildren<QMWidgets::ColorWidget*>()) {
+                swatch->setColor(Qt::cyan);
+                QCOMPARE(changed.count(), expected);
+                swatch->slotColorChanged(Qt::red);
+                QCOMPARE(changed.count(), ++expected);
+            }
         }
     }
 
     void bothRoutesGiveTheSamePixels()
     {
+        // The batch has no preview, where a size in pixels means another thing.
+        CommonData::instance()->setPreviewMode(false);
         const QImage source = noise(QSize(37, 23), 5);
         for (const Operation& operation : operations()) {
             const auto node = makeNode(qPrintable(operation.name));
@@ -191,6 +187,7 @@ private slots:
             QVERIFY(processed(*node, QImage()).isNull());
             QVERIFY(operation.processFromXml(QImage(), QString()).isNull());
         }
+        CommonData::instance()->setPreviewMode(true);
     }
 
     void aTextThatTellsNothingFallsBack_data()
@@ -200,6 +197,11 @@ private slots:
         QTest::newRow("no colour")
             << "Brightness, Contrast, Saturation"
             << "<P><Brightness>0</Brightness><Contrast>0</Contrast><Saturation>0</Saturation></P>";
+        QTest::newRow("mirror") << "Mirror"
+                                << "<P><Horizontal>yes</Horizontal><Vertical>no</Vertical></P>";
+        QTest::newRow("vignette")
+            << "Vignetting"
+            << "<P><Radius>2</Radius><Opacity>127</Opacity><Color>#000000</Color></P>";
         QTest::newRow("histogram") << "Histogram optimizer"
                                    << "<P><Left>0</Left><Right>0</Right></P>";
         QTest::newRow("mode") << "RGB-Order"
@@ -221,11 +223,40 @@ private slots:
         COMPARE_IMAGES(filter(source, QStringLiteral("<P><Mode>x</Mode><Left/></P>")), expected);
     }
 
+    void aTextThatTellsNothingChangesNothing()
+    {
+        const QImage source = noise(QSize(19, 11), 9);
+        for (const char* name : {"Crop", "Resize", "Rotate", "Frame"}) {
+            COMPARE_IMAGES(batched(name, source, QString()), source);
+            COMPARE_IMAGES(batched(name, source, QStringLiteral("<P><Angle/><Top>x</Top></P>")),
+                           source);
+        }
+        const QString width = QStringLiteral("<P><Width>200</Width></P>");
+        QCOMPARE(batched("Frame", source, width).pixel(0, 0), qRgb(0, 0, 0));
+        QCOMPARE(batched("Resize", source, width).size(), QSize(38, 11));
+    }
+
+    void numbersOutOfAllRangeDoNoHarm()
+    {
+        const QImage source = noise(QSize(120, 110), 9);
+        for (const Operation& operation : operations()) {
+            for (const QString& parameter : written(*makeNode(qPrintable(operation.name)))) {
+                const QString tag = parameter.section(QLatin1Char('='), 0, 0);
+                for (const char* number : {"-2147483648", "2147483647", "2147483648"}) {
+                    const QString text =
+                        QStringLiteral("<P><%1>%2</%1></P>").arg(tag, QLatin1String(number));
+                    const QSize size = operation.processFromXml(source, text).size();
+                    QVERIFY2(size.isEmpty() || size == source.size(),
+                             qPrintable(operation.name + text));
+                }
+            }
+        }
+    }
+
     void aHandMadeModeOfTheBatchChangesNothing()
     {
         const QImage source = noise(QSize(9, 5), 1);
-        COMPARE_IMAGES(findOperation(QStringLiteral("RGB-Order"))
-                           ->processFromXml(source, QStringLiteral("<P><Mode>3</Mode></P>")),
+        COMPARE_IMAGES(batched("RGB-Order", source, QStringLiteral("<P><Mode>3</Mode></P>")),
                        source);
     }
 };

@@ -1,14 +1,14 @@
 #include "BenchSupport.h"
 
 #include <algorithm>
+#include <array>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cmath>
 #include <cstring>
+#include <ctime>
 #include <map>
 #include <MGraphX/HeapPolicy.h>
 #include <random>
-#include <vector>
 
 namespace
 {
@@ -23,23 +23,27 @@ QImage wordCopy(const QImage& source)
     return copy;
 }
 
+double cpuSeconds()
+{
+    return double(std::clock()) / CLOCKS_PER_SEC;
+}
+
 /// Seconds that a copy into a new image takes: the median of many.
 double copySeconds(const QSize& size)
 {
     const QImage photo = benchPhoto(size);
-    const int inner = std::max(1, 24000000 / (size.width() * size.height()) / 8);
-    std::vector<double> times;
-    for (int i = 0; i < 21; ++i) {
-        const auto start = std::chrono::steady_clock::now();
+    const int inner = std::max(1, 24000000 / (size.width() * size.height()));
+    std::array<double, 21> times;
+    for (double& time : times) {
+        const double start = cpuSeconds();
         for (int k = 0; k < inner; ++k) {
             const QImage copy = wordCopy(photo);
             benchmark::DoNotOptimize(copy.constBits());
         }
-        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-        times.push_back(time.count() / inner);
+        time = (cpuSeconds() - start) / inner;
     }
-    std::nth_element(times.begin(), times.begin() + 10, times.end());
-    return times[10];
+    std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
+    return times[times.size() / 2];
 }
 
 void runFilter(benchmark::State& state, const Filter& filter, const QSize& size,
@@ -50,20 +54,15 @@ void runFilter(benchmark::State& state, const Filter& filter, const QSize& size,
         copies[size.width()] = copySeconds(size);
     }
     const QImage photo = benchPhoto(size, format);
-    double seconds = 0;
     for (auto _ : state) {
-        const auto start = std::chrono::steady_clock::now();
-        {
-            const QImage result = filter(photo);
-            benchmark::DoNotOptimize(result.constBits());
-        }
-        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-        state.SetIterationTime(time.count());
-        seconds += time.count();
+        const QImage result = filter(photo);
+        benchmark::DoNotOptimize(result.constBits());
     }
-    const double each = seconds / double(state.iterations());
-    state.counters["ns_px"] = each * 1e9 / (double(size.width()) * size.height());
-    state.counters["x_copy"] = each / copies[size.width()];
+    using benchmark::Counter;
+    const auto flags = Counter::Flags(Counter::kIsIterationInvariantRate | Counter::kInvert);
+    const double pixels = double(size.width()) * size.height();
+    state.counters["ns_px"] = Counter(pixels * 1e-9, flags);
+    state.counters["x_copy"] = Counter(copies[size.width()], flags);
 }
 
 } // namespace
@@ -103,7 +102,6 @@ void benchFilter(const std::string& name, const Filter& fast, const Filter& plai
             benchmark::RegisterBenchmark(
                 (name + size.suffix + way.suffix).c_str(),
                 [=](benchmark::State& state) { runFilter(state, filter, pixels, format); })
-                ->UseManualTime()
                 ->Unit(benchmark::kMillisecond);
         }
     }

@@ -11,7 +11,7 @@ if(TESSARIN_MULTIVERSION AND NOT TESSARIN_SANITIZE MATCHES "thread")
     endif()
     check_cxx_source_runs("
         namespace {
-        __attribute__((target_clones(\"default\", \"avx2\", \"arch=skylake-avx512\")))
+        __attribute__((target_clones(\"default\", \"avx2\", \"arch=x86-64-v4\")))
         int twice(int value) { return 2 * value; }
         }
         int main(int argc, char**) { return twice(argc) - 2 * argc; }"
@@ -20,6 +20,6 @@ if(TESSARIN_MULTIVERSION AND NOT TESSARIN_SANITIZE MATCHES "thread")
     unset(CMAKE_REQUIRED_LINK_OPTIONS)
     if(TESSARIN_HAS_TARGET_CLONES)
         set(TESSARIN_MULTIVERSION_ATTRIBUTE
-            "__attribute__((target_clones(\"default\", \"avx2\", \"arch=skylake-avx512\")))")
+            "__attribute__((target_clones(\"default\", \"avx2\", \"arch=x86-64-v4\")))")
     endif()
 endif()

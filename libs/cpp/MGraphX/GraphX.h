@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QRect>
 #include <QSize>
 #include <QString>
 
@@ -63,6 +64,12 @@ public:
     /// Puts a border of `color` around the image, on all four sides `widthPercent` of its width. A
     /// negative width cuts away as much. Shape: larger by twice the border, the source's format.
     static QImage frame(const QImage& image, int widthPercent, const QColor& color);
+
+    /// Smears the part of the image inside `rect`, either way along columns and rows, the farther
+    /// the greater `radius`: 1 to 18; more is as 18, less leaves the pixels as they are. The pixels
+    /// at the rectangle's edge stay less blurred. `alphaOnly` leaves the colours as they are.
+    /// Shape: Format_ARGB32_Premultiplied.
+    static QImage blur(const QImage& image, const QRect& rect, int radius, bool alphaOnly);
 
     /// Scales the image smoothly to fit into `size` and centres it on `background`.
     /// Shape: `size`, the format of the source; an image with a palette comes out as Format_ARGB32.

@@ -22,7 +22,7 @@ struct Planes {
 
 // The sum is exact in double precision: 24-bit weights times 16-bit squares. So is what comes from
 // rounding its root to single precision afterwards.
-inline void split(const uint32_t* source, int count, Planes& planes)
+MGRAPHX_INLINE void split(const uint32_t* source, int count, Planes& planes)
 {
     for (int i = 0; i < count; ++i) {
         const uint32_t p = source[i];
@@ -40,16 +40,16 @@ inline void split(const uint32_t* source, int count, Planes& planes)
 
 // Clamping before the conversion gives what clamping after it would, and converts nothing that is
 // out of an integer's range. A value that is no number becomes 0.
-inline double adjusted(double channel, double level, double saturation, double brightness,
-                       double gain)
+MGRAPHX_INLINE double adjusted(double channel, double level, double saturation, double brightness,
+                               double gain)
 {
     const double value = ((channel - level) * saturation + level + brightness) * gain;
     const double positive = value > 0.0 ? value : 0.0;
     return positive < 255.0 ? positive : 255.0;
 }
 
-inline void merge(const uint32_t* source, uint32_t* target, int count, const Planes& planes,
-                  const BrightnessSettings& settings)
+MGRAPHX_INLINE void merge(const uint32_t* source, uint32_t* target, int count, const Planes& planes,
+                          const BrightnessSettings& settings)
 {
     const double saturation = double(settings.saturation);
     const double gain = double(settings.gain);

@@ -5,7 +5,7 @@
 namespace
 {
 
-inline uint32_t onLine(uint32_t value, int32_t start, uint32_t step)
+MGRAPHX_INLINE uint32_t onLine(uint32_t value, int32_t start, uint32_t step)
 {
     const int32_t above = int32_t(value) - start;
     const uint32_t steps = above > 0 ? uint32_t(above) : 0;
@@ -26,7 +26,7 @@ void stretch(const uint32_t* source, uint32_t* target, int count, int32_t start,
     }
 }
 
-inline int redOf(uint32_t word)
+MGRAPHX_INLINE int redOf(uint32_t word)
 {
     return int((word >> 16) & 0xff);
 }

@@ -2,71 +2,84 @@
 
 #include "Multiversion.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
-/// Turns a block of 8 by 8 words about its diagonal: column c of the source, counted in words,
-/// becomes row c of the target. Strides are in words and may be negative.
+/// Turns 16 rows of four words each into four columns of 16 words each, and back: one way to let
+/// rows of pixels go side by side through the lanes of a vector.
 namespace MGraphX::kernels
 {
 
+constexpr int kTurnedRows = 16;
+constexpr int kTurnedWords = 4;
+
+using WordColumn = uint32_t[kTurnedRows];
+
 #ifdef __GNUC__
 
-// Three rounds of pairing registers: 24 shuffles for 64 words, where single words take a load and a
-// store each.
-typedef uint32_t Words8 __attribute__((vector_size(32)));
+// Two rounds of pairing registers turn 4 by 4 words. Registers of four words are what every
+// instruction set has; wider ones the compiler would take apart word by word where it has none.
+typedef uint32_t Quad __attribute__((vector_size(16)));
+typedef uint64_t Longs __attribute__((vector_size(16)));
 
-MGRAPHX_INLINE void loadWords(Words8& words, const uint32_t* source)
+MGRAPHX_INLINE void turnQuads(const Quad (&rows)[4], Quad (&columns)[4])
 {
-    std::memcpy(&words, source, sizeof(words));
+    const auto upper02 = Longs(__builtin_shufflevector(rows[0], rows[1], 0, 4, 1, 5));
+    const auto lower02 = Longs(__builtin_shufflevector(rows[0], rows[1], 2, 6, 3, 7));
+    const auto upper13 = Longs(__builtin_shufflevector(rows[2], rows[3], 0, 4, 1, 5));
+    const auto lower13 = Longs(__builtin_shufflevector(rows[2], rows[3], 2, 6, 3, 7));
+    columns[0] = Quad(__builtin_shufflevector(upper02, upper13, 0, 2));
+    columns[1] = Quad(__builtin_shufflevector(upper02, upper13, 1, 3));
+    columns[2] = Quad(__builtin_shufflevector(lower02, lower13, 0, 2));
+    columns[3] = Quad(__builtin_shufflevector(lower02, lower13, 1, 3));
 }
 
-MGRAPHX_INLINE void storeWords(uint32_t* target, const Words8& words)
+MGRAPHX_INLINE void toColumns(uint32_t* const* rows, int at, WordColumn* columns)
 {
-    std::memcpy(target, &words, sizeof(words));
-}
-
-MGRAPHX_INLINE void transpose8(const uint32_t* source, ptrdiff_t sourceStride, uint32_t* target,
-                               ptrdiff_t targetStride)
-{
-    Words8 rows[8];
-    Words8 pairs[8];
-    Words8 quads[8];
-    for (int i = 0; i < 8; ++i) {
-        loadWords(rows[i], source + i * sourceStride);
-    }
-    for (int i = 0; i < 8; i += 2) {
-        pairs[i] = __builtin_shufflevector(rows[i], rows[i + 1], 0, 8, 1, 9, 4, 12, 5, 13);
-        pairs[i + 1] = __builtin_shufflevector(rows[i], rows[i + 1], 2, 10, 3, 11, 6, 14, 7, 15);
-    }
-    for (int i = 0; i < 8; i += 4) {
-        for (int k = 0; k < 2; ++k) {
-            const Words8 upper = pairs[i + k];
-            const Words8 lower = pairs[i + k + 2];
-            quads[i + 2 * k] = __builtin_shufflevector(upper, lower, 0, 1, 8, 9, 4, 5, 12, 13);
-            quads[i + 2 * k + 1] =
-                __builtin_shufflevector(upper, lower, 2, 3, 10, 11, 6, 7, 14, 15);
+    for (int top = 0; top < kTurnedRows; top += 4) {
+        Quad loaded[4];
+        Quad turned[4];
+        for (int i = 0; i < 4; ++i) {
+            std::memcpy(&loaded[i], rows[top + i] + at, sizeof(Quad));
+        }
+        turnQuads(loaded, turned);
+        for (int i = 0; i < 4; ++i) {
+            std::memcpy(columns[i] + top, &turned[i], sizeof(Quad));
         }
     }
-    for (int i = 0; i < 4; ++i) {
-        const Words8 upper = quads[i];
-        const Words8 lower = quads[i + 4];
-        storeWords(target + i * targetStride,
-                   __builtin_shufflevector(upper, lower, 0, 1, 2, 3, 8, 9, 10, 11));
-        storeWords(target + (i + 4) * targetStride,
-                   __builtin_shufflevector(upper, lower, 4, 5, 6, 7, 12, 13, 14, 15));
+}
+
+MGRAPHX_INLINE void toRows(const WordColumn* columns, uint32_t* const* rows, int at)
+{
+    for (int top = 0; top < kTurnedRows; top += 4) {
+        Quad loaded[4];
+        Quad turned[4];
+        for (int i = 0; i < 4; ++i) {
+            std::memcpy(&loaded[i], columns[i] + top, sizeof(Quad));
+        }
+        turnQuads(loaded, turned);
+        for (int i = 0; i < 4; ++i) {
+            std::memcpy(rows[top + i] + at, &turned[i], sizeof(Quad));
+        }
     }
 }
 
 #else
 
-MGRAPHX_INLINE void transpose8(const uint32_t* source, ptrdiff_t sourceStride, uint32_t* target,
-                               ptrdiff_t targetStride)
+MGRAPHX_INLINE void toColumns(uint32_t* const* rows, int at, WordColumn* columns)
 {
-    for (int column = 0; column < 8; ++column) {
-        for (int row = 0; row < 8; ++row) {
-            target[column * targetStride + row] = source[row * sourceStride + column];
+    for (int i = 0; i < kTurnedWords; ++i) {
+        for (int k = 0; k < kTurnedRows; ++k) {
+            columns[i][k] = rows[k][at + i];
+        }
+    }
+}
+
+MGRAPHX_INLINE void toRows(const WordColumn* columns, uint32_t* const* rows, int at)
+{
+    for (int i = 0; i < kTurnedWords; ++i) {
+        for (int k = 0; k < kTurnedRows; ++k) {
+            rows[k][at + i] = columns[i][k];
         }
     }
 }

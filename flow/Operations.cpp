@@ -2,6 +2,7 @@
 
 #include "flow/nodes/BCSNode.h"
 #include "flow/nodes/BINNode.h"
+#include "flow/nodes/BLRNode.h"
 #include "flow/nodes/CRPNode.h"
 #include "flow/nodes/FRMNode.h"
 #include "flow/nodes/GRSNode.h"
@@ -53,6 +54,8 @@ QVector<Operation> makeOperations()
          FRMNode::processFromXml},
         {QStringLiteral("RGB-Order"), QStringLiteral("Icon_RGB.png"), create<RGBNode>,
          RGBNode::processFromXml},
+        {QStringLiteral("Blur"), QStringLiteral("Icon_BLR.png"), create<BLRNode>,
+         BLRNode::processFromXml},
         {QStringLiteral("Invert"), QStringLiteral("Icon_INV.png"), create<INVNode>,
          plain<GraphX::invert>},
         {QStringLiteral("Binarization"), QStringLiteral("Icon_BIN.png"), create<BINNode>,
@@ -63,17 +66,10 @@ QVector<Operation> makeOperations()
 }
 
 /// The order in which nodeIcon looks: a text that holds several names gets the icon of the first.
-const char* const kIconOrder[] = {"Binarization",
-                                  "Brightness, Contrast, Saturation",
-                                  "Crop",
-                                  "Frame",
-                                  "Histogram optimizer",
-                                  "Invert",
-                                  "Mirror",
-                                  "RGB-Order",
-                                  "Resize",
-                                  "Rotate",
-                                  "Vignetting",
+const char* const kIconOrder[] = {"Binarization", "Blur",   "Brightness, Contrast, Saturation",
+                                  "Crop",         "Frame",  "Histogram optimizer",
+                                  "Invert",       "Mirror", "RGB-Order",
+                                  "Resize",       "Rotate", "Vignetting",
                                   "Grayscale"};
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "flow/nodes/UCSNode.h"
 #include "NodeTesting.h"
+#include "reference/BlurReference.h"
 #include "reference/VignetteReference.h"
 #include "support/ImageCompare.h"
 #include "support/Photos.h"
@@ -13,6 +14,19 @@ class TestDetailNodes : public QObject
     Q_OBJECT
 
 private slots:
+    void theWholePhotoIsBlurredInAllItsChannels()
+    {
+        const QImage source = noise(QSize(40, 30), 7);
+        for (const int radius : {0, 2, 10, 20}) {
+            const QString text = QStringLiteral("<P><Radius>%1</Radius></P>").arg(radius);
+            const auto node = makeNode("Blur");
+            load(*node, text);
+            const QImage expected = reference::blur(source, source.rect(), radius, false);
+            COMPARE_IMAGES(processed(*node, source), expected);
+            COMPARE_IMAGES(batched("Blur", source, text), expected);
+        }
+    }
+
     void theVignetteIsThePainters_data()
     {
         QTest::addColumn<QSize>("size");

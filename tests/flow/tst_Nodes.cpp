@@ -62,6 +62,7 @@ private slots:
                            QStringLiteral("Color=#000000")});
         row("Frame", {QStringLiteral("Width=2"), QStringLiteral("Color=#00ff00")});
         row("RGB-Order", {QStringLiteral("Mode=0")});
+        row("Blur", {QStringLiteral("Radius=10")});
         row("Invert", {});
         row("Binarization", {QStringLiteral("Threshold=127")});
         row("Grayscale", {});
@@ -202,6 +203,8 @@ private slots:
         QTest::newRow("vignette")
             << "Vignetting"
             << "<P><Radius>2</Radius><Opacity>127</Opacity><Color>#000000</Color></P>";
+        QTest::newRow("blur") << "Blur"
+                              << "<P><Radius>2</Radius></P>";
         QTest::newRow("histogram") << "Histogram optimizer"
                                    << "<P><Left>0</Left><Right>0</Right></P>";
         QTest::newRow("mode") << "RGB-Order"

@@ -39,6 +39,7 @@ private slots:
     {
         QVERIFY(sameIcon(QStringLiteral("My Invert step"), QStringLiteral("Icon_INV.png")));
         QVERIFY(sameIcon(QStringLiteral("Invert Binarization"), QStringLiteral("Icon_BIN.png")));
+        QVERIFY(sameIcon(QStringLiteral("Motion Blur, Crop"), QStringLiteral("Icon_BLR.png")));
         QVERIFY(sameIcon(QStringLiteral("Rotate, Resize"), QStringLiteral("Icon_RSZ.png")));
         QVERIFY(sameIcon(QStringLiteral("Grayscale Vignetting"), QStringLiteral("Icon_WGN.png")));
         QVERIFY(nodeIcon(QStringLiteral("invert")).isNull());

@@ -82,8 +82,7 @@ QImage UCSNode::processFromXml(const QImage& image, const QString& xml)
 
 QImage UCSNode::vignette(const QImage& image, int radius, int opacity, const QColor& color)
 {
-    // Nothing is to be seen, but the painter would round pixels that are all but transparent.
-    if (image.isNull() || opacity <= 0) {
+    if (image.isNull()) {
         return image;
     }
     const int side = qMax(image.width(), image.height());

@@ -1,6 +1,6 @@
 #include "flow/FavoritesDeleteDlg.h"
 
-#include <QMWidgets/App.h>
+#include <QMWidgets/ButtonRow.h>
 
 #include <QBoxLayout>
 #include <QListWidget>
@@ -34,8 +34,7 @@ FavoritesDeleteDlg::FavoritesDeleteDlg(QWidget* parent)
     connect(m_cancelButton, &QPushButton::clicked, this, &FavoritesDeleteDlg::reject);
     connect(deleteButton, &QPushButton::clicked, this, &FavoritesDeleteDlg::accept);
 
-    auto* buttons = new QBoxLayout(QMWidgets::App::isSmallScreen() ? QBoxLayout::TopToBottom
-                                                                   : QBoxLayout::LeftToRight);
+    QBoxLayout* const buttons = QMWidgets::makeButtonRow();
     buttons->addWidget(deleteButton);
     buttons->addWidget(m_cancelButton);
     auto* layout = new QVBoxLayout(this);

@@ -3,12 +3,15 @@
 namespace QMWidgets
 {
 
-QStringList FileDialog::getOpenFileNames(QWidget* parent, const QString& caption,
-                                         const QString& folder, const QString& filter,
-                                         QString* selectedFilter, QFileDialog::Options options)
+namespace
+{
+
+QStringList openFiles(QFileDialog::FileMode mode, QWidget* parent, const QString& caption,
+                      const QString& folder, const QString& filter, QString* selectedFilter,
+                      QFileDialog::Options options)
 {
     QFileDialog dialog(parent, caption, folder, filter);
-    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setFileMode(mode);
     dialog.setOptions(options);
     if (selectedFilter && !selectedFilter->isEmpty()) {
         dialog.selectNameFilter(*selectedFilter);
@@ -20,6 +23,25 @@ QStringList FileDialog::getOpenFileNames(QWidget* parent, const QString& caption
         *selectedFilter = dialog.selectedNameFilter();
     }
     return dialog.selectedFiles();
+}
+
+} // namespace
+
+QString FileDialog::getOpenFileName(QWidget* parent, const QString& caption, const QString& folder,
+                                    const QString& filter, QString* selectedFilter,
+                                    QFileDialog::Options options)
+{
+    return openFiles(QFileDialog::ExistingFile, parent, caption, folder, filter, selectedFilter,
+                     options)
+        .value(0);
+}
+
+QStringList FileDialog::getOpenFileNames(QWidget* parent, const QString& caption,
+                                         const QString& folder, const QString& filter,
+                                         QString* selectedFilter, QFileDialog::Options options)
+{
+    return openFiles(QFileDialog::ExistingFiles, parent, caption, folder, filter, selectedFilter,
+                     options);
 }
 
 } // namespace QMWidgets

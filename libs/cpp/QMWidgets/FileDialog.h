@@ -10,6 +10,14 @@ namespace QMWidgets
 class FileDialog
 {
 public:
+    /// Lets the user choose one existing file, in a modal dialog; the arguments are those of
+    /// getOpenFileNames. Returns its path, or an empty text if the user cancelled.
+    static QString getOpenFileName(QWidget* parent, const QString& caption,
+                                   const QString& folder = QString(),
+                                   const QString& filter = QString(),
+                                   QString* selectedFilter = nullptr,
+                                   QFileDialog::Options options = QFileDialog::Options());
+
     /// Lets the user choose several existing files, in a modal dialog. An empty `folder` begins
     /// where the toolkit likes, an empty `filter` shows all files. `selectedFilter`, if given,
     /// names the filter to begin with and receives the one chosen. Returns the paths, or an empty

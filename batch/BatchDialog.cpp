@@ -130,7 +130,7 @@ void BatchDialog::showEvent(QShowEvent* event)
     m_pauseButton->setText(tr("Pause"));
     m_progressBar->setValue(0);
     m_previewLabel->setPixmap(QPixmap());
-    m_previewLabel->setText(QStringLiteral("<CENTER><H1>Please, wait...</H1></CENTER>"));
+    m_previewLabel->setText(tr("<CENTER><H1>Please, wait...</H1></CENTER>"));
     QDialog::showEvent(event);
 }
 

@@ -66,6 +66,8 @@ QImage BatchWorker::process(const QString& file) const
 {
     // Straight from the decoder's hand, the conversion works in place.
     QImage image = QImage(file).convertToFormat(QImage::Format_ARGB32);
+    // A name such as "photo@2x" sets a ratio, which would have painters draw at half the scale.
+    image.setDevicePixelRatio(1.0);
     if (image.isNull()) {
         qWarning("Can't read the photo %s", qUtf8Printable(file));
     }

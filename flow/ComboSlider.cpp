@@ -86,4 +86,8 @@ void ComboSlider::slotSpinValueChanged(int value)
     m_slider->setValue(value);
     emit sliderMoved(value);
     m_slider->blockSignals(wereBlocked);
+    // The receiver may have let events through, and a step of the slider among them was not heard.
+    if (m_slider->value() != m_spinBox->value()) {
+        m_spinBox->setValue(m_slider->value());
+    }
 }

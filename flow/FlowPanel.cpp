@@ -58,6 +58,7 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(m_tabBar, &NodesTabBar::tabClicked, this, &FlowPanel::slotTabClicked);
     connect(m_tabBar, &NodesTabBar::countChanged, this, &FlowPanel::slotNodesCountChanged);
     connect(m_tabBar, &NodesTabBar::tabMoved, this, &FlowPanel::slotTabMoved);
+    connect(m_tabBar, &NodesTabBar::tabsDragged, this, &FlowPanel::slotTabsDragged);
 
     auto* addButton =
         makeRoundButton(QStringLiteral("+"), QStringLiteral("PushButtonAdd"), tr("Add node"), this);
@@ -166,6 +167,13 @@ void FlowPanel::slotTabMoved(int from, int to)
 {
     // The bar moves a tab by one place at a time, so that a swap is the whole move.
     std::swap(m_flow[from], m_flow[to]);
+    if (!m_tabBar->isMovingTabs()) {
+        slotTabsDragged();
+    }
+}
+
+void FlowPanel::slotTabsDragged()
+{
     emit flowChanged(m_flow);
 }
 

@@ -38,7 +38,9 @@ signals:
     void runBatch();
 
 public slots:
+    /// Swaps the two nodes and tells the new flow; of a drag it is told when the bar is done.
     void slotTabMoved(int from, int to);
+    void slotTabsDragged();
     /// Adds the operation that the sending action names.
     void slotAddNode();
     void slotAddWaterMarkNode();

@@ -89,7 +89,7 @@ void NodesOptionsPanel::slotNodeRemoved(QMap<int, BaseNode*> flow, BaseNode* rem
 {
     if (removed) {
         m_stack->removeWidget(removed);
-        removed->deleteLater();
+        m_leavingNodes.append(removed);
     }
     slotShowOptions(next);
     slotFlowChanged(std::move(flow));
@@ -97,7 +97,18 @@ void NodesOptionsPanel::slotNodeRemoved(QMap<int, BaseNode*> flow, BaseNode* rem
 
 void NodesOptionsPanel::slotParametersChanged()
 {
-    const quint64 run = ++m_lastRun;
+    ++m_runsUnderWay;
+    runChain(++m_lastRun);
+    if (--m_runsUnderWay == 0) {
+        for (BaseNode* node : qAsConst(m_leavingNodes)) {
+            node->deleteLater();
+        }
+        m_leavingNodes.clear();
+    }
+}
+
+void NodesOptionsPanel::runChain(quint64 run)
+{
     QImage image = workingCopy();
     const int count = m_flow.size();
     for (int i = 0; i < count; ++i) {

@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QImage>
+#include <QList>
 #include <QMap>
 
 class BaseNode;
@@ -17,7 +18,8 @@ class Label;
 ///
 /// A run lets events through before each node and after the last. A change that arrives meanwhile
 /// starts a run of its own, inside the older one; the older one then ends without a word, since the
-/// newer has shown the newer picture. Interface thread only.
+/// newer has shown the newer picture. A node removed meanwhile lives until the outermost run has
+/// ended: one of its controls may have started that run. Interface thread only.
 class NodesOptionsPanel : public QFrame
 {
     Q_OBJECT
@@ -49,6 +51,7 @@ public slots:
 
 private:
     QImage workingCopy() const;
+    void runChain(quint64 run);
     bool letEventsThrough(quint64 run);
 
     QImage m_sourceImage;
@@ -56,4 +59,6 @@ private:
     QMWidgets::Label* m_initLabel;
     QStackedWidget* m_stack;
     quint64 m_lastRun = 0;
+    int m_runsUnderWay = 0;
+    QList<BaseNode*> m_leavingNodes;
 };

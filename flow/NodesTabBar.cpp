@@ -17,6 +17,19 @@ void NodesTabBar::tabRemoved(int index)
     emit countChanged(count());
 }
 
+void NodesTabBar::mouseMoveEvent(QMouseEvent* event)
+{
+    bool moved = false;
+    const auto note = connect(this, &QTabBar::tabMoved, this, [&moved] { moved = true; });
+    m_movingTabs = true;
+    QTabBar::mouseMoveEvent(event);
+    m_movingTabs = false;
+    disconnect(note);
+    if (moved) {
+        emit tabsDragged();
+    }
+}
+
 void NodesTabBar::mouseReleaseEvent(QMouseEvent* event)
 {
     // Deliberate: a further press ends the drag of a tab at once, where the base class's release

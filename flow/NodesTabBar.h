@@ -10,13 +10,23 @@ class NodesTabBar : public QTabBar
 public:
     explicit NodesTabBar(QWidget* parent);
 
+    /// True while the bar itself moves tabs under the mouse: tabsDragged() follows.
+    bool isMovingTabs() const { return m_movingTabs; }
+
 signals:
     /// The mouse button went up, after a click or a drag.
     void tabClicked();
     void countChanged(int count);
+    /// A drag has moved tabs; comes when the bar is done with the movement of the mouse, and so may
+    /// be answered by anything, be it a removal of tabs.
+    void tabsDragged();
 
 protected:
     void tabInserted(int index) override;
     void tabRemoved(int index) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool m_movingTabs = false;
 };

@@ -43,11 +43,21 @@ private:
         CommonData::instance()->model()->setItems(urls);
     }
 
+    /// So many that a run is still under way some time after its first photo.
+    static int setManyPhotos(Photos& photos)
+    {
+        QList<QUrl> urls;
+        for (int i = 0; i < 30; ++i) {
+            urls += photos.add(QStringLiteral("p%1.png").arg(i), QSize(700, 500));
+        }
+        setPhotos(urls);
+        return urls.size();
+    }
+
     /// Calls act when the run has come to its first photo, with the dialog open.
     template <class Act> static void atTheFirstPhoto(BatchDialog& dialog, Act act)
     {
-        auto* const worker = dialog.findChild<QMWidgets::Label*>();
-        auto* const once = new QTimer(worker);
+        auto* const once = new QTimer(&dialog);
         QObject::connect(once, &QTimer::timeout, &dialog, [&dialog, once, act] {
             if (dialog.findChild<QMWidgets::Label*>()->text().isEmpty()) {
                 once->deleteLater();
@@ -113,11 +123,7 @@ private slots:
     {
         Photos photos;
         UrlCatcher opened;
-        QList<QUrl> urls;
-        for (int i = 0; i < 30; ++i) {
-            urls += photos.add(QStringLiteral("p%1.png").arg(i), QSize(700, 500));
-        }
-        setPhotos(urls);
+        const int total = setManyPhotos(photos);
         BatchDialog dialog;
         dialog.startBatch({});
         atTheFirstPhoto(dialog, [&] {
@@ -127,7 +133,7 @@ private slots:
         });
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
         QVERIFY(!results().isEmpty());
-        QVERIFY(results().size() < urls.size());
+        QVERIFY(results().size() < total);
 
         setPhotos({photos.add(QStringLiteral("next.png"))});
         dialog.startBatch({});
@@ -152,18 +158,26 @@ private slots:
 
     void pauseHoldsTheRunUntilResume()
     {
-        Photos photos;
         UrlCatcher opened;
-        setPhotos({photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
-                   photos.add(QStringLiteral("c.png"))});
+        Photos photos;
+        const int total = setManyPhotos(photos);
         BatchDialog dialog;
         dialog.startBatch({});
+        int heldAt = total;
         atTheFirstPhoto(dialog, [&] {
             button(dialog, "BatchPauseButton")->click();
-            QTimer::singleShot(0, &dialog, [&] { button(dialog, "BatchPauseButton")->click(); });
+            // The run has come to its pause when no more results appear; without one it would end.
+            int before = -1;
+            while (before != results().size()) {
+                before = results().size();
+                QTest::qWait(600);
+            }
+            heldAt = before;
+            button(dialog, "BatchPauseButton")->click();
         });
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-        QCOMPARE(results(), QStringList({"a.png", "b.png", "c.png"}));
+        QVERIFY(heldAt < total);
+        QCOMPARE(results().size(), total);
     }
 
     void closingInTheMiddleOfARunDoesNotDisturbTheNext()
@@ -195,16 +209,15 @@ private slots:
     void theDialogMayGoInTheMiddleOfARun()
     {
         Photos photos;
-        setPhotos({photos.add(QStringLiteral("a.png"), QSize(1200, 900)),
-                   photos.add(QStringLiteral("b.png"), QSize(1200, 900))});
+        const int total = setManyPhotos(photos);
         {
             BatchDialog dialog;
             dialog.startBatch({});
             dialog.show();
-            QTRY_VERIFY(QDir(outputFolder()).exists());
-            button(dialog, "BatchPauseButton")->click();
+            QTRY_VERIFY(dialog.findChild<QMWidgets::Label*>()->text().isEmpty());
         }
-        QVERIFY(results().size() <= 2);
+        QVERIFY(!results().isEmpty());
+        QVERIFY(results().size() < total);
     }
 
     void anOutputFolderThatCannotBeMadeEndsInSilence()

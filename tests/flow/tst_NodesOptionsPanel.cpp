@@ -6,10 +6,12 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
+#include <memory>
 #include <MGraphX/GraphX.h>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <utility>
 
 using MGraphX::GraphX;
 
@@ -34,11 +36,11 @@ private:
     /// node has done its work.
     template <class Change> static void duringTheNextRun(BaseNode* firstNode, Change change)
     {
-        auto* once = new QObject(firstNode);
-        QObject::connect(firstNode, &BaseNode::previewChanged, once, [once, change] {
-            once->disconnect();
-            QMetaObject::invokeMethod(qApp, change, Qt::QueuedConnection);
-            once->deleteLater();
+        auto done = std::make_shared<bool>(false);
+        QObject::connect(firstNode, &BaseNode::previewChanged, firstNode, [done, change] {
+            if (!std::exchange(*done, true)) {
+                QMetaObject::invokeMethod(qApp, change, Qt::QueuedConnection);
+            }
         });
     }
 

@@ -17,7 +17,8 @@ public:
 
     /// Units: percent of the picture's own speed.
     void setSpeed(int percent);
-    /// How long to play after each show, in milliseconds; the last frame then stays. Zero or less
+    /// How long to play, in milliseconds; the last frame then stays. Counted from each show, and an
+    /// earlier show's count goes on when the label is hidden and shown again. Zero or less
     /// plays for as long as the label is shown.
     void setDuration(int milliseconds);
 

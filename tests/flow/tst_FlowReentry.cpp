@@ -7,6 +7,7 @@
 #include "support/TestMain.h"
 #include "support/WindowEvents.h"
 
+#include <QEventLoop>
 #include <QPointer>
 #include <QPushButton>
 #include <QSlider>
@@ -88,8 +89,11 @@ private slots:
         connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), &page,
                 [&] { aliveAfterTheRun = !binary.isNull(); });
         postKey(spinBox, Qt::Key_Up);
-        QTRY_COMPARE(page.bar->count(), 4);
-        QTRY_VERIFY(!binary);
+        // Deferred deletion knows how deep it is only below an event loop.
+        QEventLoop loop;
+        connect(binary, &QObject::destroyed, &loop, &QEventLoop::quit);
+        loop.exec();
+        QCOMPARE(page.bar->count(), 4);
         QVERIFY(aliveAfterTheRun);
         QVERIFY(page.isConsistent());
     }

@@ -39,5 +39,6 @@ int main(int argc, char** argv)
     benchBrightness("brightness", 20, 30, 1.5f);
     benchBrightness("brightness_default", 0, 0, 2.0f);
     benchBrightness("brightness_gray", 0, 0, 0.0f);
+    benchBrightness("brightness_bright", 20, 30, 1.0f);
     return runBenchmarks(argc, argv);
 }

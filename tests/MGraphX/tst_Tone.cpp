@@ -5,6 +5,9 @@
 
 #include <limits>
 #include <MGraphX/GraphX.h>
+#include <MGraphX/kernels/FastBrightnessKernel.h>
+#include <numeric>
+#include <vector>
 
 using MGraphX::GraphX;
 
@@ -41,6 +44,8 @@ private slots:
     void channelFiltersEqualPlainLoops();
     void brightnessEqualsPlainLoop_data();
     void brightnessEqualsPlainLoop();
+    void brightnessTakesEachWay();
+    void fastBrightnessIsExactForAllColours();
     void brightnessInLiteralPixels();
     void histogramEqualsPlanarDefinition();
     void histogramArgumentsCross();
@@ -96,6 +101,45 @@ void tst_Tone::brightnessEqualsPlainLoop()
         COMPARE_IMAGES(
             GraphX::brightnessContrastSaturation(image, brightness, contrast, factor),
             reference::brightnessContrastSaturation(image, brightness, contrast, factor));
+    }
+}
+
+void tst_Tone::brightnessTakesEachWay()
+{
+    // Blocks in which few pixels, many or all come near a whole level, in rows with remainders.
+    const QImage noise = randomImage({500, 3}, QImage::Format_ARGB32, RandomAlpha::Any, 8);
+    const QImage gray = GraphX::grayscale(noise);
+    for (const QImage& image : {noise, gray}) {
+        for (const int contrast : {-50, 0, 77}) {
+            for (const float saturation : {0.0f, 0.96f, 1.0f, 2.0f, 1e5f, 1e30f}) {
+                for (const int brightness : {0, -40, 3, 70000}) {
+                    COMPARE_IMAGES(GraphX::brightnessContrastSaturation(image, brightness, contrast,
+                                                                        saturation),
+                                   reference::brightnessContrastSaturation(image, brightness,
+                                                                           contrast, saturation));
+                }
+            }
+        }
+    }
+}
+
+void tst_Tone::fastBrightnessIsExactForAllColours()
+{
+    using namespace MGraphX::kernels;
+    constexpr int kRow = 1 << 16;
+    std::vector<uint32_t> colours(kRow);
+    std::vector<uint32_t> exact(kRow);
+    std::vector<uint32_t> quick(kRow);
+    for (const auto& settings : {BrightnessSettings{0, 1, 2}, BrightnessSettings{31, 1.5f, 0.34f},
+                                 BrightnessSettings{-127, 255 / 127.0f, 1.98f}}) {
+        const FastBrightness fast(settings);
+        QVERIFY(fast.isUsable());
+        for (uint32_t red = 0; red < 256; ++red) {
+            std::iota(colours.begin(), colours.end(), 0xff000000u + (red << 16));
+            brightnessRow(colours.data(), exact.data(), kRow, settings);
+            fastBrightnessRow(colours.data(), quick.data(), kRow, settings, fast);
+            QVERIFY2(exact == quick, qPrintable(QString::number(red)));
+        }
     }
 }
 

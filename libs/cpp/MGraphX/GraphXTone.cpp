@@ -2,6 +2,7 @@
 
 #include "kernels/BrightnessKernel.h"
 #include "kernels/ChannelKernels.h"
+#include "kernels/FastBrightnessKernel.h"
 #include "kernels/HistogramKernel.h"
 #include "PixelRows.h"
 #include "StretchTable.h"
@@ -29,9 +30,19 @@ QImage GraphX::brightnessContrastSaturation(const QImage& image, int brightness,
     settings.gain = float((double(contrast) + 127) / 127.0);
     settings.saturation = saturation;
     const QImage source = withWords(image);
+    if (saturation == 1.0f) {
+        ByteTable table;
+        kernels::brightnessTable(settings, table.data());
+        return mapBytes(source, source.format(), table, -qBound(-0xffff, brightness, 0xffff), 0);
+    }
+    const kernels::FastBrightness fast(settings);
     return mapRows(source, source.format(),
-                   [&settings](const uint32_t* words, uint32_t* target, int count) {
-                       kernels::brightnessRow(words, target, count, settings);
+                   [&](const uint32_t* words, uint32_t* target, int count) {
+                       if (fast.isUsable()) {
+                           kernels::fastBrightnessRow(words, target, count, settings, fast);
+                       } else {
+                           kernels::brightnessRow(words, target, count, settings);
+                       }
                    });
 }
 
@@ -46,11 +57,9 @@ QImage GraphX::optimizeHistogram(const QImage& image, int left, int right)
     counts.sum(bins);
     const int64_t pixelCount = int64_t(source.width()) * source.height();
     // Deliberate: measured on red alone, applied to all three channels alike.
-    const kernels::ByteLine line = stretchLine(stretchRange(bins, pixelCount, left, right));
-    return mapRows(source, QImage::Format_ARGB32,
-                   [&line](const uint32_t* words, uint32_t* target, int count) {
-                       kernels::stretchRow(words, target, count, line);
-                   });
+    const StretchRange range = stretchRange(bins, pixelCount, left, right);
+    return mapBytes(source, QImage::Format_ARGB32, stretchTable(range), stretchStart(range),
+                    0xff000000u);
 }
 
 QImage GraphX::swapRedBlue(const QImage& image)

@@ -40,9 +40,9 @@ StretchRange stretchRange(const uint32_t* bins, int64_t pixelCount, int left, in
     return range;
 }
 
-std::array<unsigned char, 256> stretchTable(const StretchRange& range)
+ByteTable stretchTable(const StretchRange& range)
 {
-    std::array<unsigned char, 256> table;
+    ByteTable table;
     table.fill(255);
     std::fill_n(table.begin(), range.low, static_cast<unsigned char>(0));
     const int steps = range.high - range.low;
@@ -53,23 +53,10 @@ std::array<unsigned char, 256> stretchTable(const StretchRange& range)
     return table;
 }
 
-kernels::ByteLine stretchLine(const StretchRange& range)
+int stretchStart(const StretchRange& range)
 {
-    const int steps = range.high - range.low;
-    if (steps <= 0) {
-        // All bytes from low up leap to 255 with the first step.
-        return {range.low - 1, 255u << 16};
-    }
-    // 256.0 / steps is rounded, and for a few ranges its multiples fall just short of a whole
-    // number that the exact quotient reaches. The least fraction that is not below any entry of the
-    // table is not above one either, for each of the 255 numbers of steps.
-    const auto table = stretchTable(range);
-    uint32_t step = 0;
-    for (uint32_t k = 1; k <= uint32_t(steps); ++k) {
-        const uint32_t entry = uint32_t(table[size_t(range.low) + k]) << 16;
-        step = std::max(step, (entry + k - 1) / k);
-    }
-    return {range.low, step};
+    // All bytes from low up leap to 255 with the first step if there is nothing to stretch.
+    return range.low < range.high ? range.low : range.low - 1;
 }
 
 } // namespace MGraphX

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "kernels/HistogramKernel.h"
+#include "ByteMap.h"
 
-#include <array>
 #include <cstdint>
 
 namespace MGraphX
@@ -22,9 +21,9 @@ StretchRange stretchRange(const uint32_t* bins, int64_t pixelCount, int left, in
 
 /// The table that maps the bytes from `low` up to `high` onto 0 to 255; a range that is empty or
 /// turned round maps everything from `low` up to 255.
-std::array<unsigned char, 256> stretchTable(const StretchRange& range);
+ByteTable stretchTable(const StretchRange& range);
 
-/// The line that gives for every byte what the range's table gives.
-kernels::ByteLine stretchLine(const StretchRange& range);
+/// Where the line through the range's table starts. There is one for every range.
+int stretchStart(const StretchRange& range);
 
 } // namespace MGraphX

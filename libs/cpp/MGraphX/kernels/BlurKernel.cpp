@@ -1,6 +1,7 @@
 #include "BlurKernel.h"
 
 #include "Multiversion.h"
+#include "Prefetch.h"
 #include "Transpose.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@ namespace
 {
 
 using MGraphX::kernels::kTurnedWords;
+using MGraphX::kernels::prefetch;
 using MGraphX::kernels::toColumns;
 using MGraphX::kernels::toRows;
 using MGraphX::kernels::WordColumn;
@@ -83,11 +85,9 @@ MGRAPHX_INLINE void stepWord(uint32_t* const* rows, int at, uint16_t* accumulato
 /// Asks for a chunk of the rows that are worked on next, to be there by then.
 MGRAPHX_INLINE void fetch(const uint32_t* const* rows, int at)
 {
-#ifdef __GNUC__
     for (int k = 0; k < kRows; ++k) {
-        __builtin_prefetch(rows[k] + at, 0, 2);
+        prefetch(rows[k], at);
     }
-#endif
 }
 
 MGRAPHX_MULTIVERSION

@@ -18,4 +18,8 @@ struct BrightnessSettings {
 void brightnessRow(const uint32_t* source, uint32_t* target, int count,
                    const BrightnessSettings& settings);
 
+/// What becomes of each of the 256 values of a channel at a saturation of 1, where the level
+/// cancels out: X - L and the sum with L are exact.
+void brightnessTable(const BrightnessSettings& settings, uint8_t* table);
+
 } // namespace MGraphX::kernels

@@ -19,15 +19,4 @@ private:
     uint32_t m_tables[4][256] = {};
 };
 
-/// A straight line through the byte values: value v becomes (v - start) * step / 65536, cut off at
-/// 0 and 255. `start` lies in -1 to 256; the product of 256 and `step` fits 32 bits.
-struct ByteLine {
-    int32_t start = 0;
-    uint32_t step = 0;
-};
-
-/// Puts red, green and blue of `count` words through `line` and makes alpha 255. `target` is the
-/// same row or does not overlap.
-void stretchRow(const uint32_t* source, uint32_t* target, int count, const ByteLine& line);
-
 } // namespace MGraphX::kernels

@@ -7,6 +7,20 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDomDocument>
+#include <QLineEdit>
+#include <QSpinBox>
+
+namespace
+{
+
+/// The XML reader drops a text of nothing but blanks, unless it stands in a section of its own.
+QDomText textNode(QDomDocument document, const QString& text)
+{
+    const bool blank = !text.isEmpty() && text.trimmed().isEmpty();
+    return blank ? document.createCDATASection(text) : document.createTextNode(text);
+}
+
+} // namespace
 
 void ParameterBindings::bind(const char* tag, Apply apply, Tell tell)
 {
@@ -16,6 +30,17 @@ void ParameterBindings::bind(const char* tag, Apply apply, Tell tell)
 void ParameterBindings::bind(const char* tag, ComboSlider* slider)
 {
     bindNumber(tag, slider, &ComboSlider::setValue, &ComboSlider::value);
+}
+
+void ParameterBindings::bind(const char* tag, QSpinBox* box)
+{
+    bindNumber(tag, box, &QSpinBox::setValue, &QSpinBox::value);
+}
+
+void ParameterBindings::bind(const char* tag, QLineEdit* edit)
+{
+    bind(
+        tag, [edit](const QString& text) { edit->setText(text); }, [edit] { return edit->text(); });
 }
 
 void ParameterBindings::bind(const char* tag, QComboBox* box)
@@ -68,7 +93,7 @@ void ParameterBindings::write(QDomElement& parameters, QDomDocument document) co
 {
     for (const Binding& binding : m_bindings) {
         QDomElement element = document.createElement(binding.tag);
-        element.appendChild(document.createTextNode(binding.tell()));
+        element.appendChild(textNode(document, binding.tell()));
         parameters.appendChild(element);
     }
 }

@@ -10,6 +10,8 @@ class QComboBox;
 class QDomDocument;
 class QDomElement;
 class QDomNode;
+class QLineEdit;
+class QSpinBox;
 class ComboSlider;
 
 namespace QMWidgets
@@ -29,6 +31,8 @@ public:
     void bind(const char* tag, Apply apply, Tell tell);
     /// The control's own range bounds what is read.
     void bind(const char* tag, ComboSlider* slider);
+    void bind(const char* tag, QSpinBox* box);
+    void bind(const char* tag, QLineEdit* edit);
     /// The current index; a number outside the box leaves it with no current item.
     void bind(const char* tag, QComboBox* box);
     /// "yes" or "no", for a button that can be checked.

@@ -9,6 +9,12 @@
 #include <QDomDocument>
 #include <QFormLayout>
 
+namespace
+{
+/// Long enough for a step of one unit to be a movement of the hand.
+constexpr int kSliderWidth = 320;
+} // namespace
+
 void ParameterNode::readParameters(const QDomNode& parameters)
 {
     m_bindings.read(parameters);
@@ -19,15 +25,8 @@ void ParameterNode::writeParameters(QDomElement& parameters, QDomDocument docume
     m_bindings.write(parameters, document);
 }
 
-namespace
+ComboSlider* ParameterNode::makeSlider(const SliderParameter& parameter)
 {
-/// Long enough for a step of one unit to be a movement of the hand.
-constexpr int kSliderWidth = 320;
-} // namespace
-
-ComboSlider* ParameterNode::addSlider(const SliderParameter& parameter, QFormLayout* form)
-{
-    const QString caption = translated(parameter.caption);
     auto* slider = new ComboSlider(QString(), nullptr);
     slider->setRange(parameter.minimum, parameter.maximum);
     slider->setTickInterval(parameter.tick);
@@ -36,10 +35,16 @@ ComboSlider* ParameterNode::addSlider(const SliderParameter& parameter, QFormLay
     }
     slider->setValue(parameter.value);
     slider->setUnit(QLatin1String(parameter.unit));
-    slider->setControlName(caption);
-    slider->setMinimumWidth(kSliderWidth);
-    form->addRow(caption, slider);
+    slider->setControlName(translated(parameter.caption));
     connect(slider, &ComboSlider::sliderMoved, this, &ParameterNode::parametersChanged);
+    return slider;
+}
+
+ComboSlider* ParameterNode::addSlider(const SliderParameter& parameter, QFormLayout* form)
+{
+    ComboSlider* const slider = makeSlider(parameter);
+    slider->setMinimumWidth(kSliderWidth);
+    form->addRow(translated(parameter.caption), slider);
     m_bindings.bind(parameter.tag, slider);
     return slider;
 }

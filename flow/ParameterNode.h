@@ -24,6 +24,8 @@ public:
     void writeParameters(QDomElement& parameters, QDomDocument document) override;
 
 protected:
+    /// Makes the parameter's slider, which is in no form and not bound yet.
+    ComboSlider* makeSlider(const SliderParameter& parameter);
     /// Makes the parameter's slider, puts it into the form and binds it.
     ComboSlider* addSlider(const SliderParameter& parameter, QFormLayout* form);
     /// The same for a colour and its swatch.

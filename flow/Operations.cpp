@@ -13,6 +13,7 @@
 #include "flow/nodes/RSZNode.h"
 #include "flow/nodes/RTTNode.h"
 #include "flow/nodes/UCSNode.h"
+#include "flow/nodes/WMRNode.h"
 #include <MGraphX/GraphX.h>
 
 #include <algorithm>
@@ -46,6 +47,8 @@ QVector<Operation> makeOperations()
          RTTNode::processFromXml},
         {QStringLiteral("Mirror"), QStringLiteral("Icon_MRR.png"), create<MRRNode>,
          MRRNode::processFromXml},
+        {QStringLiteral("Watermark"), QStringLiteral("Icon_WMR.png"), create<WMRNode>,
+         WMRNode::processFromXml},
         {QStringLiteral("Histogram optimizer"), QStringLiteral("Icon_HST.png"), create<HSTNode>,
          HSTNode::processFromXml},
         {QStringLiteral("Vignetting"), QStringLiteral("Icon_WGN.png"), create<UCSNode>,
@@ -66,11 +69,13 @@ QVector<Operation> makeOperations()
 }
 
 /// The order in which nodeIcon looks: a text that holds several names gets the icon of the first.
-const char* const kIconOrder[] = {"Binarization", "Blur",   "Brightness, Contrast, Saturation",
-                                  "Crop",         "Frame",  "Histogram optimizer",
-                                  "Invert",       "Mirror", "RGB-Order",
-                                  "Resize",       "Rotate", "Vignetting",
-                                  "Grayscale"};
+const char* const kIconOrder[] = {
+    "Binarization", "Blur",      "Brightness, Contrast, Saturation",
+    "Crop",         "Frame",     "Histogram optimizer",
+    "Invert",       "Mirror",    "RGB-Order",
+    "Resize",       "Rotate",    "Vignetting",
+    "Grayscale",    "Watermark",
+};
 
 } // namespace
 

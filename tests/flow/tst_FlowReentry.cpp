@@ -7,13 +7,13 @@
 #include "support/TestMain.h"
 #include "support/WindowEvents.h"
 
+#include <memory>
 #include <QEventLoop>
 #include <QPointer>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
 #include <QVBoxLayout>
-#include <memory>
 #include <utility>
 
 namespace
@@ -23,7 +23,9 @@ namespace
 class Page : public QWidget
 {
 public:
-    Page() : options(new NodesOptionsPanel(this)), panel(new FlowPanel(options, this))
+    Page()
+        : options(new NodesOptionsPanel(this)),
+          panel(new FlowPanel(options, this))
     {
         auto* layout = new QVBoxLayout(this);
         layout->addWidget(options);

@@ -33,6 +33,12 @@ void moveControls(BaseNode& node, int round)
     }
 }
 
+/// A page that can't be moved by pressing all its buttons; it has tests of its own.
+bool asksForAFile(const Operation& operation)
+{
+    return operation.name == QLatin1String("Watermark");
+}
+
 } // namespace
 
 class TestNodes : public QObject
@@ -140,6 +146,9 @@ private slots:
     void controlsTellTheirChanges()
     {
         for (const Operation& operation : operations()) {
+            if (asksForAFile(operation)) {
+                continue;
+            }
             const auto node = makeNode(qPrintable(operation.name));
             QSignalSpy changed(node.get(), &BaseNode::parametersChanged);
             int expected = 0;
@@ -171,6 +180,9 @@ private slots:
         CommonData::instance()->setPreviewMode(false);
         const QImage source = noise(QSize(37, 23), 5);
         for (const Operation& operation : operations()) {
+            if (asksForAFile(operation)) {
+                continue;
+            }
             const auto node = makeNode(qPrintable(operation.name));
             for (int round = 0; round < 6; ++round) {
                 const QString text = node->parametersText();

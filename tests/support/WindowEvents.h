@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <QWindow>
 
-// What the toolkit's own test functions are built on: events as they come from the window system. They
-// lie in its queue until the event loop, or processEvents, takes them out.
+// What the toolkit's own test functions are built on: events as they come from the window system.
+// They lie in its queue until the event loop, or processEvents, takes them out.
 Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
                                       Qt::MouseButtons state, Qt::MouseButton button,
                                       QEvent::Type type, Qt::KeyboardModifiers modifiers,
@@ -21,8 +21,7 @@ inline void postMouse(const QWidget* widget, const QPoint& place, QEvent::Type t
     static int timestamp = 0;
     timestamp += 1000; // far enough apart to be no double click
     const bool isMove = type == QEvent::MouseMove;
-    qt_handleMouseEvent(widget->window()->windowHandle(),
-                        widget->mapTo(widget->window(), place),
+    qt_handleMouseEvent(widget->window()->windowHandle(), widget->mapTo(widget->window(), place),
                         widget->mapToGlobal(place),
                         type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
                         isMove ? Qt::NoButton : Qt::LeftButton, type, Qt::NoModifier, timestamp);

@@ -1,0 +1,148 @@
+#include "flow/nodes/WMRParams.h"
+
+#include "flow/Direction.h"
+#include "flow/ParameterReader.h"
+#include <MGraphX/GraphX.h>
+
+#include <iterator>
+
+using MGraphX::GraphX;
+
+namespace
+{
+
+struct Element {
+    const char* tag;
+    void (*read)(const QString& text, WMRParams& params);
+};
+
+template <int WMRParams::*field> void readNumber(const QString& text, WMRParams& params)
+{
+    ParameterReader::readInt(text, params.*field);
+}
+
+template <bool WMRParams::*field> void readYesNo(const QString& text, WMRParams& params)
+{
+    params.*field = ParameterReader::readYesNo(text);
+}
+
+template <QColor WMRParams::*field> void readColor(const QString& text, WMRParams& params)
+{
+    params.*field = ParameterReader::readColor(text);
+}
+
+template <QString WMRParams::*field> void readText(const QString& text, WMRParams& params)
+{
+    params.*field = text;
+}
+
+void readPositionField(const QString& text, WMRParams& params)
+{
+    WMRXml::readPosition(text, params.position);
+}
+
+void readFontField(const QString& text, WMRParams& params)
+{
+    params.font = WMRXml::readFont(text);
+}
+
+const Element kElements[] = {
+    {WMRXml::kMode, readNumber<&WMRParams::mode>},
+    {WMRXml::kSize, readNumber<&WMRParams::size>},
+    {WMRXml::kText, readText<&WMRParams::text>},
+    {WMRXml::kPosition, readPositionField},
+    {WMRXml::kExpand, readYesNo<&WMRParams::expand>},
+    {WMRXml::kBold, readYesNo<&WMRParams::bold>},
+    {WMRXml::kItalic, readYesNo<&WMRParams::italic>},
+    {WMRXml::kUnderlined, readYesNo<&WMRParams::underlined>},
+    {WMRXml::kXOffset, readNumber<&WMRParams::xOffset>},
+    {WMRXml::kYOffset, readNumber<&WMRParams::yOffset>},
+    {WMRXml::kTransparency, readNumber<&WMRParams::transparency>},
+    {WMRXml::kColor, readColor<&WMRParams::color>},
+    {WMRXml::kBackground, readColor<&WMRParams::background>},
+    {WMRXml::kBackgroundEnabled, readYesNo<&WMRParams::backgroundEnabled>},
+    {WMRXml::kFont, readFontField},
+    {WMRXml::kImageName, readText<&WMRParams::imageName>},
+};
+
+/// In the order of Direction.
+const char* const kPositionWords[] = {"TopLeft",    "TopMiddle",    "TopRight",
+                                      "MiddleLeft", "Middle",       "MiddleRight",
+                                      "BottomLeft", "BottomMiddle", "BottomRight"};
+static_assert(std::size(kPositionWords) == BottomRight + 1);
+
+} // namespace
+
+WMRParams WMRParams::fromXml(const QString& xml)
+{
+    WMRParams params;
+    params.imageName = WMRXml::defaultMarkName();
+    QString imageData;
+    ParameterReader::forEachElement(xml, [&](const QString& tag, const QString& text) {
+        if (tag == QLatin1String(WMRXml::kImageData) && !text.isEmpty()) {
+            imageData = text;
+        }
+        for (const Element& element : kElements) {
+            if (tag == QLatin1String(element.tag)) {
+                element.read(text, params);
+            }
+        }
+    });
+    if (params.mode == kImageMode) {
+        params.image = WMRXml::defaultMark();
+        WMRXml::readImage(imageData, params.image);
+    }
+    return params;
+}
+
+namespace WMRXml
+{
+
+QString defaultMarkName()
+{
+    return QStringLiteral("corvane.png");
+}
+
+QImage defaultMark()
+{
+    // One for all photos: the batch asks for it with each.
+    static const QImage mark(QLatin1String(":/") + defaultMarkName());
+    return mark;
+}
+
+bool readPosition(const QString& word, int& position)
+{
+    for (int i = 0; i < int(std::size(kPositionWords)); ++i) {
+        if (word == QLatin1String(kPositionWords[i])) {
+            position = i;
+            return true;
+        }
+    }
+    return false;
+}
+
+QString positionWord(int position)
+{
+    const bool known = position >= 0 && position < int(std::size(kPositionWords));
+    return known ? QString::fromLatin1(kPositionWords[position]) : QString();
+}
+
+QFont readFont(const QString& family)
+{
+    return QFont(family, -1, -1, false);
+}
+
+void readImage(const QString& text, QImage& image)
+{
+    if (!text.isEmpty()) {
+        image = GraphX::imageFromDataUrl(text);
+    }
+}
+
+QString imageText(const QImage& image, const QString& name)
+{
+    return name == defaultMarkName() ? QString()
+                                     : GraphX::imageToDataUrl(image, QStringLiteral("PNG"), -1);
+}
+
+} // namespace WMRXml

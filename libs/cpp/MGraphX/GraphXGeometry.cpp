@@ -22,13 +22,17 @@ struct Window {
     int64_t height = 0;
 };
 
-/// An image like `source`, but for its size. One of more than 8 GiB counts as not to be had: the
-/// system may well promise it, and end the process when it is filled.
+/// An image like `source`, but for its size. What needs more than 2 GiB and more than the widest
+/// frame adds to the source counts as not to be had, and so does anything above 8 GiB: the system
+/// may well promise it, and end the process when it is filled.
 QImage newImage(const QImage& source, int64_t width, int64_t height)
 {
     constexpr int64_t kMostSide = std::numeric_limits<int>::max();
     constexpr int64_t kMostWords = int64_t(1) << 31;
-    if (width < 1 || height < 1 || width > kMostSide || height > kMostWords / width) {
+    constexpr int64_t kAlwaysGranted = int64_t(1) << 29;
+    const int64_t framed = 9 * int64_t(source.width()) * source.height();
+    const int64_t most = std::clamp(framed, kAlwaysGranted, kMostWords);
+    if (width < 1 || height < 1 || width > kMostSide || height > most / width) {
         return QImage();
     }
     return imageLike(source, QSize(int(width), int(height)), source.format());

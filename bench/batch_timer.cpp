@@ -1,7 +1,11 @@
 #include "batch/BatchWorker.h"
 #include "batch/ResultFile.h"
 #include "BenchSupport.h"
+#include "flow/Operations.h"
+#include "reference/BlurReference.h"
+#include "reference/GeometryReference.h"
 #include "reference/ToneReference.h"
+#include "reference/VignetteReference.h"
 #include <MGraphX/HeapPolicy.h>
 
 #include <cstdio>
@@ -25,24 +29,89 @@ struct TimedFlow {
     QVector<Filter> plain;
 };
 
-QString parameters(const char* elements)
+/// A step of the batch beside its plain twin.
+struct Step {
+    const char* name;
+    const char* parameters;
+    Filter plain;
+};
+
+TimedFlow timedFlow(const char* name, const QVector<Step>& steps)
 {
-    return QStringLiteral("<Parameters>%1</Parameters>").arg(QLatin1String(elements));
+    TimedFlow flow{name, {}, {}};
+    for (const Step& step : steps) {
+        flow.operations.append(
+            qMakePair(QString(QLatin1String(step.name)),
+                      QStringLiteral("<P>%1</P>").arg(QLatin1String(step.parameters))));
+        flow.plain.append(step.plain);
+    }
+    return flow;
 }
+
+Step tone(const char* parameters, int brightness, int contrast, int saturation)
+{
+    return {"Brightness, Contrast, Saturation", parameters, [=](const QImage& image) {
+                return reference::brightnessContrastSaturation(image, brightness, contrast,
+                                                               float(saturation / 50.0));
+            }};
+}
+
+const Step kGrayscale = {"Grayscale", "", reference::grayscale};
+const Step kInvert = {"Invert", "", reference::invert};
+const Step kRotate = {"Rotate", "<Angle>90</Angle>", reference::rotate90};
+const Step kMirror = {"Mirror", "<Horizontal>yes</Horizontal><Vertical>no</Vertical>",
+                      [](const QImage& image) {
+                          return image.mirrored(true, false);
+                      }};
+const Step kCrop = {"Crop", "<Left>11</Left><Right>11</Right>", [](const QImage& image) {
+                        return reference::crop(image, 11, 11, 0, 0);
+                    }};
+const Step kResize = {"Resize", "<Mode>0</Mode><Width>100</Width><Height>100</Height>",
+                      [](const QImage& image) {
+                          return image;
+                      }};
+const Step kBlur = {"Blur", "<Radius>10</Radius>", [](const QImage& image) {
+                        return reference::blur(image, image.rect(), 10, false);
+                    }};
+const Step kVignette = {"Vignetting",
+                        "<Radius>65</Radius><Opacity>80</Opacity><Color>#000000</Color>",
+                        [](const QImage& image) {
+                            return reference::vignette(image, 65, 80, Qt::black);
+                        }};
+/// The mark has no plain loop: it is text, which the toolkit draws on both sides.
+const char* const kMarkParameters = "<Mode>0</Mode><Size>60</Size><Text>Watermark</Text>"
+                                    "<Transparency>25</Transparency>";
+const Step kMark = {"Watermark", kMarkParameters, [](const QImage& image) {
+                        return findOperation(QStringLiteral("Watermark"))
+                            ->processFromXml(
+                                image,
+                                QStringLiteral("<P>%1</P>").arg(QLatin1String(kMarkParameters)));
+                    }};
+const Step kHistogram = {"Histogram optimizer", "<Left>5</Left><Right>5</Right>",
+                         [](const QImage& image) {
+                             return reference::optimizeHistogram(image, 5, 5);
+                         }};
+const Step kFrame = {"Frame", "<Width>2</Width><Color>#00ff00</Color>", [](const QImage& image) {
+                         return reference::frame(image, 2, Qt::green);
+                     }};
+const Step kBinarize = {"Binarization", "<Threshold>127</Threshold>", [](const QImage& image) {
+                            return reference::binarize(image, 127);
+                        }};
 
 QVector<TimedFlow> flows()
 {
-    return {{"convert only", {}, {}},
-            {"tone, grayscale, invert",
-             {{QStringLiteral("Brightness, Contrast, Saturation"),
-               parameters("<Brightness>10</Brightness><Contrast>5</Contrast>"
-                          "<Saturation>60</Saturation>")},
-              {QStringLiteral("Grayscale"), QString()},
-              {QStringLiteral("Invert"), QString()}},
-             {[](const QImage& image) {
-                  return reference::brightnessContrastSaturation(image, 10, 5, 60 / 50.0f);
-              },
-              reference::grayscale, reference::invert}}};
+    const Step soft = tone("<Brightness>10</Brightness><Contrast>5</Contrast>"
+                           "<Saturation>60</Saturation>",
+                           10, 5, 60);
+    const Step strong = tone("<Brightness>-27</Brightness><Contrast>58</Contrast>"
+                             "<Saturation>82</Saturation>",
+                             -27, 58, 82);
+    return {timedFlow("convert only", {}),
+            timedFlow("tone, grayscale, invert", {soft, kGrayscale, kInvert}),
+            timedFlow("rotate, mirror", {kRotate, kMirror}),
+            timedFlow("sample flow", {strong, kCrop, kRotate, kResize}),
+            timedFlow("blur, vignette, text", {kBlur, kVignette, kMark}),
+            timedFlow("histogram, frame, binarize", {kHistogram, kFrame, kBinarize})};
 }
 
 double cpuSeconds()
@@ -84,12 +153,24 @@ double timeBatch(const TimedFlow& flow, const QList<QUrl>& photos, const QString
     return (cpuSeconds() - start) / photos.size();
 }
 
+/// What the program's conversion gives, word by word.
+QImage plainConversion(const QImage& image)
+{
+    QImage result(image.size(), QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            result.setPixel(x, y, image.pixel(x, y));
+        }
+    }
+    return result;
+}
+
 /// The same with plain loops.
 double timePlain(const TimedFlow& flow, const QList<QUrl>& photos, const QString& folder)
 {
     const double start = cpuSeconds();
     for (const QUrl& photo : photos) {
-        QImage image = QImage(photo.toLocalFile()).convertToFormat(QImage::Format_ARGB32);
+        QImage image = plainConversion(QImage(photo.toLocalFile()));
         for (const Filter& filter : flow.plain) {
             image = filter(image);
         }

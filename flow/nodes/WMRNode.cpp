@@ -169,6 +169,8 @@ void WMRNode::setUpPlacementControls()
         offset->setRange(-33, 33);
         offset->setValue(0);
     }
+    m_xOffset->setAccessibleName(tr("Horizontal offset"));
+    m_yOffset->setAccessibleName(tr("Vertical offset"));
     auto* form = new QFormLayout(m_offsetBox);
     form->setContentsMargins(0, 0, 0, 0);
     addRow(form, tr("x:"), tightRow({m_xOffset, new QLabel(QStringLiteral("%"))}), m_xOffset);

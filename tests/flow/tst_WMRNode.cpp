@@ -3,55 +3,26 @@
 #include "flow/ComboSlider.h"
 #include "flow/DirectionsWidget.h"
 #include "flow/FlowPanel.h"
-#include "flow/nodes/WMRNode.h"
 #include "flow/NodesOptionsPanel.h"
-#include "NodeTesting.h"
 #include "support/ImageCompare.h"
-#include "support/ModalDialog.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
-#include <MGraphX/GraphX.h>
+#include "WatermarkTesting.h"
 #include <QMWidgets/ColorWidget.h>
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QFontComboBox>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QFormLayout>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <random>
 
-using MGraphX::GraphX;
 using QMWidgets::ColorWidget;
 
 namespace
 {
-
-QPushButton* button(const QWidget& node, const char* objectName)
-{
-    return node.findChild<QPushButton*>(QLatin1String(objectName));
-}
-
-/// The control beside a caption, or the first of several.
-template <class Control> Control* beside(const QWidget& node, const char* caption)
-{
-    for (const QLabel* label : node.findChildren<QLabel*>()) {
-        if (label->text() == QLatin1String(caption)) {
-            return qobject_cast<Control*>(label->buddy());
-        }
-    }
-    return nullptr;
-}
-
-QComboBox* kind(const QWidget& node)
-{
-    return beside<QComboBox>(node, "Kind:");
-}
 
 QStringList visibleCaptions(const QWidget& node)
 {
@@ -63,36 +34,6 @@ QStringList visibleCaptions(const QWidget& node)
     }
     captions.sort();
     return captions;
-}
-
-/// What the node tells of one parameter.
-QString told(BaseNode& node, const char* tag)
-{
-    for (const QString& parameter : written(node)) {
-        if (parameter.section(QLatin1Char('='), 0, 0) == QLatin1String(tag)) {
-            return parameter.section(QLatin1Char('='), 1);
-        }
-    }
-    return QString();
-}
-
-void loadOne(BaseNode& node, const char* tag, const QString& text)
-{
-    load(node, QStringLiteral("<P><%1>%2</%1></P>").arg(QLatin1String(tag), text));
-}
-
-/// Lets the user choose a file.
-void browse(WMRNode& node, const QString& file)
-{
-    withModalDialog(
-        [&node] {
-            button(node, "WMRBrowseButton")->click();
-            return 0;
-        },
-        [&file](QDialog* dialog) {
-            qobject_cast<QFileDialog*>(dialog)->selectFile(file);
-            dialog->accept();
-        });
 }
 
 /// Some families that are no other name for one of the others, which a font box would tell instead.
@@ -304,11 +245,17 @@ private slots:
             QCOMPARE(loaded.parametersText(), text);
             COMPARE_IMAGES(processed(loaded, source), live);
         }
-        // A colour that no control offers is drawn as it is written.
-        loadOne(node, "Background", QStringLiteral("#40ff0000"));
-        loadOne(node, "Mode", QStringLiteral("0"));
-        COMPARE_IMAGES(processed(node, source),
-                       WMRNode::processFromXml(source, node.parametersText()));
+    }
+
+    void aColorThatNoControlOffersIsDrawnAsWritten()
+    {
+        const QImage source = noise(QSize(90, 70), 5, QImage::Format_ARGB32, true);
+        WMRNode node(QStringLiteral("Watermark"), nullptr);
+        for (const char* color : {"#40ff0000", "transparent", "no colour"}) {
+            loadOne(node, "Background", QLatin1String(color));
+            COMPARE_IMAGES(processed(node, source),
+                           WMRNode::processFromXml(source, node.parametersText()));
+        }
     }
 
     void aTextThatTellsLittleMarksLittle()
@@ -340,90 +287,6 @@ private slots:
         COMPARE_IMAGES(batch("<Mode>1</Mode><Transparency>0</Transparency><Size>90</Size>"
                              "<ImageData></ImageData><ImageName>mine.png</ImageName>"),
                        logo);
-    }
-
-    void aUsersLogoTravelsInTheParameters()
-    {
-        const QImage photo = noise(QSize(90, 70), 5, QImage::Format_ARGB32, true);
-        QString text;
-        QImage marked;
-        {
-            Photos files;
-            const QImage logo = noise(QSize(20, 15), 4, QImage::Format_ARGB32);
-            // Its name says that it is for dense screens, which a parameter text does not tell.
-            const QString file = files.path(QStringLiteral("logo@2x.png"));
-            QVERIFY(logo.save(file));
-            WMRNode node(QStringLiteral("Watermark"), nullptr);
-            kind(node)->setCurrentIndex(1);
-            QSignalSpy changed(&node, &BaseNode::parametersChanged);
-            browse(node, file);
-            QCOMPARE(changed.count(), 1);
-            QCOMPARE(told(node, "ImageName"), QStringLiteral("logo@2x.png"));
-            COMPARE_IMAGES(GraphX::imageFromDataUrl(told(node, "ImageData"))
-                               .convertToFormat(QImage::Format_ARGB32),
-                           logo);
-            marked = processed(node, photo);
-            text = node.parametersText();
-        }
-        QVERIFY(marked != photo);
-        WMRNode loaded(QStringLiteral("Watermark"), nullptr);
-        load(loaded, text);
-        COMPARE_IMAGES(processed(loaded, photo), marked);
-        COMPARE_IMAGES(WMRNode::processFromXml(photo, text), marked);
-        // A new flow's mark stays where no data are told.
-        loadOne(loaded, "ImageData", QString());
-        COMPARE_IMAGES(processed(loaded, photo), marked);
-        loadOne(loaded, "ImageData", QStringLiteral("data:image/png;base64,nonsense"));
-        COMPARE_IMAGES(processed(loaded, photo), photo);
-        COMPARE_IMAGES(WMRNode::processFromXml(photo, loaded.parametersText()), photo);
-    }
-
-    void theDefaultMarkIsKnownByItsNameAlone()
-    {
-        Photos files;
-        files.add(QStringLiteral("corvane.png"));
-        WMRNode node(QStringLiteral("Watermark"), nullptr);
-        browse(node, files.path(QStringLiteral("corvane.png")));
-        QCOMPARE(told(node, "ImageName"), QStringLiteral("corvane.png"));
-        QCOMPARE(told(node, "ImageData"), QString());
-        beside<QLineEdit>(node, "Logo:")->setText(QStringLiteral("Corvane.png"));
-        QVERIFY(told(node, "ImageData").startsWith(QLatin1String("data:image/png;base64,")));
-    }
-
-    void aFileThatIsNoImageGivesAWarning()
-    {
-        Photos files;
-        files.addFile(QStringLiteral("notes.txt"), "no image");
-        const QString file = files.path(QStringLiteral("notes.txt"));
-        const QImage photo = noise(QSize(90, 70), 5);
-        WMRNode node(QStringLiteral("Watermark"), nullptr);
-        kind(node)->setCurrentIndex(1);
-        QSignalSpy changed(&node, &BaseNode::parametersChanged);
-        QStringList texts;
-        const auto click = [&node] {
-            button(node, "WMRBrowseButton")->click();
-            return 0;
-        };
-        withModalDialogs(click, {[&file](QDialog* dialog) {
-                                     QCOMPARE(dialog->windowTitle(),
-                                              QStringLiteral("Open the watermark file"));
-                                     qobject_cast<QFileDialog*>(dialog)->selectFile(file);
-                                     dialog->accept();
-                                 },
-                                 [&texts](QDialog* dialog) {
-                                     texts += dialog->windowTitle();
-                                     for (const QLabel* label : dialog->findChildren<QLabel*>()) {
-                                         texts += label->text();
-                                     }
-                                     buttonOf(dialog, QStringLiteral("Ok"))->click();
-                                 }});
-        QVERIFY(texts.contains(QStringLiteral("Warning")));
-        QVERIFY(texts.contains(QStringLiteral("Can not open the image file:notes.txt")));
-        QCOMPARE(changed.count(), 0);
-        QCOMPARE(told(node, "ImageName"), QStringLiteral("corvane.png"));
-        COMPARE_IMAGES(processed(node, photo), photo);
-        withModalDialog(click, [](QDialog* dialog) { dialog->reject(); });
-        QCOMPARE(changed.count(), 0);
     }
 
     void thePageFitsIntoItsPanel()

@@ -4,10 +4,12 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
+#include <array>
 #include <limits>
 #include <QFontDatabase>
 #include <QFontMetrics>
-#include <QtConcurrentRun>
+#include <thread>
+#include <vector>
 
 using WMRParams = WMRNode::WMRParams;
 
@@ -346,12 +348,18 @@ private slots:
         image.image = noise(QSize(40, 30), 9);
         for (const WMRParams& params : {text, image}) {
             const QImage expected = WMRNode::drawWatermark(photo, params);
-            QVector<QFuture<QImage>> runs;
-            for (int i = 0; i < 6; ++i) {
-                runs += QtConcurrent::run(&WMRNode::drawWatermark, photo, params);
+            std::array<QImage, 6> results;
+            std::vector<std::thread> threads;
+            for (QImage& result : results) {
+                threads.emplace_back([&result, photo, params = params] {
+                    result = WMRNode::drawWatermark(photo, params);
+                });
             }
-            for (const QFuture<QImage>& run : qAsConst(runs)) {
-                COMPARE_IMAGES(run.result(), expected);
+            for (std::thread& thread : threads) {
+                thread.join();
+            }
+            for (const QImage& result : results) {
+                COMPARE_IMAGES(result, expected);
             }
         }
     }

@@ -47,17 +47,21 @@ QSize previewSize(int width, int height)
 }
 
 /// The toolkit's scaler sets up tables of up to 16 bytes for each column and row before it finds
-/// out that the result doesn't fit; they count as well as the pixels.
-bool isGrowthBeyondMemory(const QImage& image, qint64 width, qint64 height)
+/// out that the result doesn't fit. And where one side shrinks while the other grows, it goes over
+/// the longer one of both each time: a line of 20000 pixels turned into a column keeps it for half
+/// an hour. So the longer sides count, and the tables.
+bool isGrowthBeyondReason(const QImage& image, qint64 width, qint64 height)
 {
     constexpr double kMostBytes = 2147483648.0;
-    const double bytes = 4.0 * double(width) * double(height) + 16.0 * double(width + height);
-    return (width > image.width() || height > image.height()) && bytes > kMostBytes;
+    const auto columns = double(qMax<qint64>(width, image.width()));
+    const auto rows = double(qMax<qint64>(height, image.height()));
+    return (width > image.width() || height > image.height()) &&
+           4.0 * columns * rows + 16.0 * (columns + rows) > kMostBytes;
 }
 
 QImage scaledTo(const QImage& image, qint64 width, qint64 height)
 {
-    if (width < 1 || height < 1 || isGrowthBeyondMemory(image, width, height)) {
+    if (width < 1 || height < 1 || isGrowthBeyondReason(image, width, height)) {
         return QImage();
     }
     return image.scaled(int(width), int(height), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

@@ -24,7 +24,8 @@ public:
     /// reduced stand-in for the photo: mode 1 leaves it as it is, and mode 2 makes the width 700 if
     /// it is more, else the height, and the other side in proportion.
     /// Shape: the format of QImage::scaled; resolution, colour space and texts are carried on.
-    /// Errors: a null image for a side below 1 and for a growth beyond about 2 GiB.
+    /// Errors: a null image for a side below 1 and for a growth beyond about 2 GiB, where a
+    /// side that shrinks counts as it was.
     static QImage scaleImage(const QImage& image, int width, int height, int mode, bool preview);
 
 public slots:

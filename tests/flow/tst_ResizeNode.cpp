@@ -142,6 +142,14 @@ private slots:
         QTEST(size(true), "preview");
     }
 
+    void growthIsBoundedByTheLongerSides()
+    {
+        const QImage line = noise(QSize(20000, 1), 3);
+        QVERIFY(RSZNode::scaleImage(line, 1, 60000000, 2, false).isNull());
+        QCOMPARE(RSZNode::scaleImage(line, 1, 5000, 2, false).size(), QSize(1, 5000));
+        QCOMPARE(RSZNode::scaleImage(line, 5000, 5000, 2, false).size(), QSize(5000, 5000));
+    }
+
     void pixelsAreTheToolkits()
     {
         for (const QImage::Format format :

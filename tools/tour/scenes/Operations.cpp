@@ -1,19 +1,22 @@
 #include "flow/Operations.h"
 
+#include "FileNameOf.h"
 #include "scenes/Scenes.h"
+#include "scenes/SettingsSteps.h"
 #include "Stage.h"
+
+#include <QPushButton>
 
 namespace
 {
 
-/// "RGB-Order" becomes "rgb-order", "Brightness, Contrast, Saturation" loses its commas too.
-QString fileNameOf(const QString& operationName)
+/// The one page with two faces: a text's controls were shown first.
+void showLogoControls(Stage& stage)
 {
-    QString name;
-    for (const QChar letter : operationName.toLower()) {
-        name += letter.isLetterOrNumber() ? letter : QLatin1Char('-');
-    }
-    return name.replace(QLatin1String("--"), QLatin1String("-"));
+    stage.chooseItem(boxWith(stage.page(), QStringLiteral("Image")), QStringLiteral("Image"));
+    stage.shoot(QStringLiteral("watermark-image"));
+    stage.click(stage.find<QPushButton>(QStringLiteral("WMRShrinkButton")));
+    stage.shoot(QStringLiteral("watermark-expanded"));
 }
 
 } // namespace
@@ -24,6 +27,9 @@ void showEachOperation(Stage& stage)
     for (const Operation& operation : operations()) {
         stage.addOperation(operation.name);
         stage.shoot(fileNameOf(operation.name));
+        if (operation.name == QLatin1String("Watermark")) {
+            showLogoControls(stage);
+        }
         stage.removeOperation();
     }
 }

@@ -20,7 +20,8 @@ Options Options::read(int argc, char** argv)
     Options options;
     for (int i = 1; i < argc; ++i) {
         const QString word = QString::fromLocal8Bit(argv[i]);
-        const bool takesValue = word == QLatin1String("--only") || word == QLatin1String("--out");
+        const bool takesValue = word == QLatin1String("--only") || word == QLatin1String("--out") ||
+                                word == QLatin1String("--operation-pictures");
         const QString value =
             takesValue && i + 1 < argc ? QString::fromLocal8Bit(argv[i + 1]) : QString();
         if (takesValue && value.isEmpty()) {
@@ -32,6 +33,8 @@ Options Options::read(int argc, char** argv)
             options.only += value.split(QLatin1Char(','), Qt::SkipEmptyParts);
         } else if (word == QLatin1String("--out")) {
             options.out = QDir(value).absolutePath();
+        } else if (word == QLatin1String("--operation-pictures")) {
+            options.operationPictures = QDir(value).absolutePath();
         } else if (word == QLatin1String("--list")) {
             options.list = true;
         } else if (word == QLatin1String("--keep-photos")) {
@@ -52,6 +55,7 @@ QString Options::usage()
 {
     return QStringLiteral(
         "tessarin_tour [--only NAME,...] [--out FOLDER] [--keep-photos] [--list]\n"
+        "tessarin_tour --operation-pictures FOLDER\n"
         "\n"
         "Paints sample photos, drives the program through its main job with mouse and keys,\n"
         "and takes pictures of its windows on the way.\n"
@@ -60,5 +64,7 @@ QString Options::usage()
         "  --out FOLDER     where everything goes; a new folder among the temporary files if\n"
         "                   it is missing\n"
         "  --keep-photos    take the photos that the folder holds from an earlier tour\n"
-        "  --list           name the scenes and end\n");
+        "  --list           name the scenes and end\n"
+        "\n"
+        "  --operation-pictures FOLDER  write the pictures of docs/operations.md there instead\n");
 }

@@ -5,8 +5,9 @@
 
 /// What the command line asks for.
 struct Options {
-    QStringList only; ///< names of scenes; empty means all
-    QString out;      ///< folder of the photos, the results and the pictures
+    QStringList only;          ///< names of scenes; empty means all
+    QString out;               ///< folder of the photos, the results and the pictures
+    QString operationPictures; ///< folder of the guide's pictures, or empty for the tour
     bool list = false;
     bool keepPhotos = false; ///< take the photos that the folder holds from an earlier tour
     bool help = false;

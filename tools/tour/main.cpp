@@ -1,3 +1,4 @@
+#include "OperationPictures.h"
 #include "Options.h"
 #include "OwnHome.h"
 #include "photos/SamplePhotos.h"
@@ -7,6 +8,7 @@
 
 #include <cstdio>
 #include <QDir>
+#include <QGuiApplication>
 
 namespace
 {
@@ -45,6 +47,16 @@ void evenOutDensity()
     }
 }
 
+int showOperations(int& argc, char** argv, const QString& folder)
+{
+    // Text is fitted to the pixels of the screen, and these pictures are to be the same anywhere.
+    qunsetenv("QT_SCALE_FACTOR");
+    const QGuiApplication app(argc, argv);
+    const QString fault = writeOperationPictures(folder);
+    say(fault.isEmpty() ? QStringLiteral("Pictures: %1").arg(folder) : fault);
+    return fault.isEmpty() ? AllWell : SomethingFailed;
+}
+
 int play(Stage& stage, const Options& options)
 {
     for (const Scene& scene : scenesNamed(options.only)) {
@@ -81,6 +93,11 @@ int main(int argc, char** argv)
         options.help ? say(Options::usage()) : listScenes();
         return AllWell;
     }
+    // One word of the command line is enough for the toolkit: the others are the tour's own.
+    int words = 1;
+    if (!options.operationPictures.isEmpty()) {
+        return showOperations(words, argv, options.operationPictures);
+    }
     const QDir out(options.out);
     if (!OwnHome::moveInto(out.filePath(QStringLiteral("home")))) {
         std::fprintf(stderr, "No home of its own in %s\n", qUtf8Printable(options.out));
@@ -92,8 +109,6 @@ int main(int argc, char** argv)
         return NothingDone;
     }
     evenOutDensity();
-    // One word of the command line is enough for the toolkit: the others are the tour's own.
-    int words = 1;
     Stage stage(words, argv, photos, out.filePath(kPicturesFolder));
     return play(stage, options);
 }

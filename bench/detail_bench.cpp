@@ -1,8 +1,10 @@
 #include "BenchSupport.h"
 
 #include "reference/BlurReference.h"
+#include "reference/VignetteReference.h"
 
 #include <MGraphX/GraphX.h>
+#include <MGraphX/Vignette.h>
 
 using MGraphX::GraphX;
 
@@ -17,11 +19,20 @@ void benchBlur(const std::string& name, QImage::Format format)
         format);
 }
 
+void benchVignette(const std::string& name, QImage::Format format)
+{
+    benchFilter(
+        name, [](const QImage& image) { return MGraphX::vignetteImage(image, 65, 80, Qt::black); },
+        [](const QImage& image) { return reference::vignette(image, 65, 80, Qt::black); }, format);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     benchBlur("blur", QImage::Format_ARGB32);
     benchBlur("blur_premultiplied", QImage::Format_ARGB32_Premultiplied);
+    benchVignette("vignette", QImage::Format_ARGB32);
+    benchVignette("vignette_premultiplied", QImage::Format_ARGB32_Premultiplied);
     return runBenchmarks(argc, argv);
 }

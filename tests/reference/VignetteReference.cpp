@@ -1,4 +1,4 @@
-#include "VignetteReference.h"
+#include "reference/VignetteReference.h"
 
 #include <QPainter>
 #include <QRadialGradient>
@@ -10,28 +10,26 @@ QImage vignette(const QImage& image, int radius, int opacity, const QColor& colo
 {
     const int side = qMax(image.height(), image.width());
     QImage mask(side, side, image.format());
+    if (mask.isNull()) {
+        return image;
+    }
     mask.fill(QColor(255, 255, 255, 0));
-
-    const int red = color.red();
-    const int green = color.green();
-    const int blue = color.blue();
+    const int r = color.red();
+    const int g = color.green();
+    const int b = color.blue();
     const QPointF centre(side / 2, side / 2);
-    QRadialGradient gradient(centre, radius * side / 100, centre);
-    gradient.setColorAt(
-        0.0, QColor(qMin(red + 200, 255), qMin(green + 200, 255), qMin(blue + 200, 255), 0));
-    gradient.setColorAt(
-        0.5, QColor(qMin(red + 40, 255), qMin(green + 40, 255), qMin(blue + 40, 255), 0));
-    gradient.setColorAt(1.0, QColor(red, green, blue, 255));
-
-    const QVector<QRect> whole = {QRect(QPoint(0, 0), QPoint(side - 1, side - 1))};
+    QRadialGradient gradient(centre, int(qint64(radius) * side / 100), centre);
+    gradient.setColorAt(0.0, QColor(qMin(r + 200, 255), qMin(g + 200, 255), qMin(b + 200, 255), 0));
+    gradient.setColorAt(0.5, QColor(qMin(r + 40, 255), qMin(g + 40, 255), qMin(b + 40, 255), 0));
+    gradient.setColorAt(1.0, QColor(r, g, b, 255));
     QPainter maskPainter(&mask);
     maskPainter.setOpacity(opacity / 100.0);
     maskPainter.setBrush(gradient);
     maskPainter.setPen(Qt::NoPen);
-    maskPainter.drawRects(whole);
+    const QRect whole(0, 0, side, side);
+    maskPainter.drawRects(&whole, 1);
     maskPainter.end();
-
-    QImage result = image.copy();
+    QImage result = image;
     QPainter painter(&result);
     painter.drawImage(QRect(0, 0, image.width(), image.height()), mask);
     painter.end();

@@ -6,8 +6,8 @@
 namespace reference
 {
 
-/// The vignette as the toolkit's painter draws it, through a square with a gradient: what the
-/// node's filter has to give, bit for bit.
+/// The vignette as two paintings: a radial gradient into a square mask, and the mask over the
+/// image. What MGraphX::vignetteImage has to give, bit for bit.
 QImage vignette(const QImage& image, int radius, int opacity, const QColor& color);
 
 } // namespace reference

@@ -3,10 +3,8 @@
 #include "flow/ColorParameter.h"
 #include "flow/ComboSlider.h"
 #include "flow/SliderParameter.h"
+#include <MGraphX/Vignette.h>
 #include <QMWidgets/ColorWidget.h>
-
-#include <QPainter>
-#include <QRadialGradient>
 
 namespace
 {
@@ -17,43 +15,6 @@ constexpr SliderParameter kParameters[] = {
 };
 constexpr ColorParameter kColor = {"Color", QT_TRANSLATE_NOOP("UCSNode", "Color:"), Qt::black,
                                    Qt::black};
-
-QColor shade(const QColor& color, int step, int alpha)
-{
-    return QColor(qMin(color.red() + step, 255), qMin(color.green() + step, 255),
-                  qMin(color.blue() + step, 255), alpha);
-}
-
-QRadialGradient gradient(int side, int radius, const QColor& color)
-{
-    const QPointF centre(side / 2, side / 2);
-    QRadialGradient result(centre, double(qint64(radius) * side / 100), centre);
-    result.setColorAt(0.0, shade(color, 200, 0));
-    result.setColorAt(0.5, shade(color, 40, 0));
-    result.setColorAt(1.0, shade(color, 0, 255));
-    return result;
-}
-
-/// The square to be stretched over the image. Errors: null where it would take more than 8 GiB.
-QImage paintedSquare(int side, QImage::Format format, int radius, int opacity, const QColor& color)
-{
-    constexpr int kMostSide = 46340;
-    if (side > kMostSide) {
-        return QImage();
-    }
-    QImage result(side, side, format);
-    if (result.isNull()) {
-        return result;
-    }
-    result.fill(QColor(255, 255, 255, 0));
-    QPainter painter(&result);
-    painter.setOpacity(opacity / 100.0);
-    painter.setBrush(gradient(side, radius, color));
-    painter.setPen(Qt::NoPen);
-    const QRect square(0, 0, side, side);
-    painter.drawRects(&square, 1);
-    return result;
-}
 
 } // namespace
 
@@ -82,20 +43,5 @@ QImage UCSNode::processFromXml(const QImage& image, const QString& xml)
 
 QImage UCSNode::vignette(const QImage& image, int radius, int opacity, const QColor& color)
 {
-    if (image.isNull()) {
-        return image;
-    }
-    const int side = qMax(image.width(), image.height());
-    const QImage square = paintedSquare(side, image.format(), radius, opacity, color);
-    if (square.isNull()) {
-        return image;
-    }
-    QImage result = image;
-    // The painter measures in the image's own pixels, so it must not scale.
-    result.setDevicePixelRatio(1.0);
-    QPainter painter(&result);
-    painter.drawImage(result.rect(), square);
-    painter.end();
-    result.setDevicePixelRatio(image.devicePixelRatio());
-    return result;
+    return MGraphX::vignetteImage(image, radius, opacity, color);
 }

@@ -15,9 +15,8 @@ public:
     void process(QImage& image) override;
     static QImage processFromXml(const QImage& image, const QString& xml);
 
-    /// Paints a circle over a square as long as the longer side, stretched over the image. The
-    /// colour's alpha doesn't count, and an invalid one is black. Without opacity nothing changes.
-    /// Shape: as the source. Errors: a square that memory doesn't hold leaves the image as it is.
+    /// MGraphX::vignetteImage: radius in percent of the longer side, opacity in percent. The
+    /// colour's alpha doesn't count, and an invalid colour is black.
     static QImage vignette(const QImage& image, int radius, int opacity, const QColor& color);
 
 private:

@@ -4,7 +4,6 @@
 #include "flow/DirectionsWidget.h"
 #include "flow/nodes/WatermarkRenderer.h"
 #include "flow/SliderParameter.h"
-#include <MGraphX/GraphX.h>
 #include <QMWidgets/ColorWidget.h>
 #include <QMWidgets/FileDialog.h>
 #include <QMWidgets/MMessageBox.h>
@@ -22,7 +21,6 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-using MGraphX::GraphX;
 using QMWidgets::ColorWidget;
 
 namespace
@@ -81,15 +79,6 @@ void addRow(QFormLayout* form, const QString& caption, Field* field, QWidget* bu
 QColor toldColor(const ColorWidget* swatch)
 {
     return QColor(swatch->color().name());
-}
-
-/// The logo as it comes out of a parameter text: some files hold pixels, or a density, that a PNG
-/// tells in another way. So the user sees what the batch draws.
-QImage asWritten(const QImage& logo)
-{
-    const QString png = QStringLiteral("PNG");
-    const QImage written = GraphX::imageFromDataUrl(GraphX::imageToDataUrl(logo, png, -1));
-    return written.isNull() ? logo : written;
 }
 
 } // namespace
@@ -376,7 +365,7 @@ void WMRNode::slotWMRBrowse()
             this, tr("Warning"), tr("Can not open the image file:") + fileName, QMessageBox::Ok, 0);
         return;
     }
-    m_logo = asWritten(m_logo);
+    m_logo = WMRXml::imageAsTold(m_logo);
     m_imageNameEdit->setText(fileName);
     emit parametersChanged();
 }

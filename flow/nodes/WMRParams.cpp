@@ -71,6 +71,11 @@ const char* const kPositionWords[] = {"TopLeft",    "TopMiddle",    "TopRight",
                                       "BottomLeft", "BottomMiddle", "BottomRight"};
 static_assert(std::size(kPositionWords) == BottomRight + 1);
 
+QString pngText(const QImage& image)
+{
+    return GraphX::imageToDataUrl(image, QStringLiteral("PNG"), -1);
+}
+
 } // namespace
 
 WMRParams WMRParams::fromXml(const QString& xml)
@@ -141,8 +146,13 @@ void readImage(const QString& text, QImage& image)
 
 QString imageText(const QImage& image, const QString& name)
 {
-    return name == defaultMarkName() ? QString()
-                                     : GraphX::imageToDataUrl(image, QStringLiteral("PNG"), -1);
+    return name == defaultMarkName() ? QString() : pngText(image);
+}
+
+QImage imageAsTold(const QImage& image)
+{
+    const QImage told = GraphX::imageFromDataUrl(pngText(image));
+    return told.isNull() ? image : told;
 }
 
 } // namespace WMRXml

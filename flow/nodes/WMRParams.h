@@ -77,5 +77,8 @@ QFont readFont(const QString& family);
 /// An empty text leaves the image as it is. Errors: a null image for a text that holds none.
 void readImage(const QString& text, QImage& image);
 QString imageText(const QImage& image, const QString& name);
+/// The image as it comes out of a parameter text again: some files hold pixels, or a density, that
+/// a text tells in another way.
+QImage imageAsTold(const QImage& image);
 
 } // namespace WMRXml

@@ -16,11 +16,17 @@ namespace
 /// The XML reader drops a text of nothing but blanks, unless it stands in a section of its own.
 QDomText textNode(QDomDocument document, const QString& text)
 {
-    const bool blank = !text.isEmpty() && text.trimmed().isEmpty();
-    return blank ? document.createCDATASection(text) : document.createTextNode(text);
+    const QString told = ParameterBindings::writable(text);
+    const bool blank = !told.isEmpty() && told.trimmed().isEmpty();
+    return blank ? document.createCDATASection(told) : document.createTextNode(told);
 }
 
 } // namespace
+
+QString ParameterBindings::writable(QString text)
+{
+    return text.remove(QChar(0xfffe)).remove(QChar(0xffff));
+}
 
 void ParameterBindings::bind(const char* tag, Apply apply, Tell tell)
 {

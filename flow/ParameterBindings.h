@@ -40,6 +40,9 @@ public:
     /// The colour's name. A name that can't be read shows an invalid colour.
     void bind(const char* tag, QMWidgets::ColorWidget* swatch);
 
+    /// A text without what XML can't hold: one such character would make the whole unreadable.
+    static QString writable(QString text);
+
     void read(const QDomNode& parameters) const;
     void write(QDomElement& parameters, QDomDocument document) const;
 

@@ -60,6 +60,11 @@ QMWidgets::ColorWidget* ParameterNode::addColor(const ColorParameter& parameter,
     return swatch;
 }
 
+QColor ParameterNode::toldColor(const QMWidgets::ColorWidget* swatch)
+{
+    return QColor(swatch->color().name());
+}
+
 QString ParameterNode::translated(const char* caption) const
 {
     return QCoreApplication::translate(metaObject()->className(), caption);

@@ -30,6 +30,9 @@ protected:
     ComboSlider* addSlider(const SliderParameter& parameter, QFormLayout* form);
     /// The same for a colour and its swatch.
     QMWidgets::ColorWidget* addColor(const ColorParameter& parameter, QFormLayout* form);
+    /// The swatch's colour as parameter texts tell it: opaque, and black where it is none. So the
+    /// batch draws the colour that the user has seen.
+    static QColor toldColor(const QMWidgets::ColorWidget* swatch);
     ParameterBindings& bindings() { return m_bindings; }
 
 private:

@@ -28,7 +28,7 @@ FRMNode::FRMNode(const QString& name, QWidget* parent)
 
 void FRMNode::process(QImage& image)
 {
-    runFilter(image, [width = m_width->value(), color = m_color->color()](const QImage& source) {
+    runFilter(image, [width = m_width->value(), color = toldColor(m_color)](const QImage& source) {
         return GraphX::frame(source, width, color);
     });
 }

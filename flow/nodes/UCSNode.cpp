@@ -30,9 +30,10 @@ UCSNode::UCSNode(const QString& name, QWidget* parent)
 
 void UCSNode::process(QImage& image)
 {
-    runFilter(image,
-              [radius = m_radius->value(), opacity = m_opacity->value(), color = m_color->color()](
-                  const QImage& source) { return vignette(source, radius, opacity, color); });
+    runFilter(image, [radius = m_radius->value(), opacity = m_opacity->value(),
+                      color = toldColor(m_color)](const QImage& source) {
+        return vignette(source, radius, opacity, color);
+    });
 }
 
 QImage UCSNode::processFromXml(const QImage& image, const QString& xml)

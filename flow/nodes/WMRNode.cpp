@@ -74,13 +74,6 @@ void addRow(QFormLayout* form, const QString& caption, Field* field, QWidget* bu
     static_cast<QLabel*>(form->labelForField(field))->setBuddy(buddy);
 }
 
-/// The colour as parameter texts tell it: opaque, and black where it is none. So the batch draws
-/// the colour that the user has seen.
-QColor toldColor(const ColorWidget* swatch)
-{
-    return QColor(swatch->color().name());
-}
-
 } // namespace
 
 WMRNode::WMRNode(const QString& name, QWidget* parent)
@@ -289,7 +282,7 @@ WMRParams WMRNode::params() const
 {
     WMRParams params;
     params.mode = m_kind->currentData().toInt();
-    params.text = m_textEdit->text();
+    params.text = ParameterBindings::writable(m_textEdit->text());
     params.xOffset = m_xOffset->value();
     params.yOffset = m_yOffset->value();
     // Of the family alone, as the batch makes it: the box's font has more to it on some desktops.

@@ -146,7 +146,9 @@ void readImage(const QString& text, QImage& image)
 
 QString imageText(const QImage& image, const QString& name)
 {
-    return name == defaultMarkName() ? QString() : pngText(image);
+    // No image at all is told even under the default mark's name, or the batch would draw that
+    // mark.
+    return name == defaultMarkName() && !image.isNull() ? QString() : pngText(image);
 }
 
 QImage imageAsTold(const QImage& image)

@@ -106,6 +106,18 @@ private slots:
         COMPARE_IMAGES(processed(*node, source), source.mirrored(true, false));
     }
 
+    void aColorThatNoControlOffersIsDrawnAsWritten()
+    {
+        const QImage source = noise(QSize(100, 20), 2);
+        for (const char* color : {"#80ff0000", "transparent"}) {
+            const auto node = makeNode("Frame");
+            load(*node, QStringLiteral("<P><Width>3</Width><Color>%1</Color></P>")
+                            .arg(QLatin1String(color)));
+            COMPARE_IMAGES(processed(*node, source),
+                           batched("Frame", source, node->parametersText()));
+        }
+    }
+
     void aFrameTakesTheSwatchsColor_data()
     {
         QTest::addColumn<QString>("name");

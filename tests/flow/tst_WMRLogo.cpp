@@ -91,6 +91,7 @@ private slots:
         QVERIFY(texts.contains(QStringLiteral("Warning")));
         QVERIFY(texts.contains(QStringLiteral("Can not open the image file:notes.txt")));
         QCOMPARE(changed.count(), 0);
+        COMPARE_IMAGES(WMRNode::processFromXml(photo, node.parametersText()), photo);
         QCOMPARE(told(node, "ImageName"), QStringLiteral("corvane.png"));
         COMPARE_IMAGES(processed(node, photo), photo);
         withModalDialog(click, [](QDialog* dialog) { dialog->reject(); });

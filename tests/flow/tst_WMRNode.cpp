@@ -258,6 +258,16 @@ private slots:
         }
     }
 
+    void aTextThatXmlCannotHoldIsDrawnWithoutIt()
+    {
+        const QImage source = noise(QSize(90, 70), 5, QImage::Format_ARGB32, true);
+        WMRNode node(QStringLiteral("Watermark"), nullptr);
+        beside<QLineEdit>(node, "Text:")->setText(QStringLiteral("a\uFFFEb\uFFFFc"));
+        const QImage live = processed(node, source);
+        QVERIFY(live != source);
+        COMPARE_IMAGES(WMRNode::processFromXml(source, node.parametersText()), live);
+    }
+
     void aTextThatTellsLittleMarksLittle()
     {
         const QImage photo = noise(QSize(90, 70), 5, QImage::Format_ARGB32, true);

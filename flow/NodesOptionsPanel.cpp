@@ -3,6 +3,7 @@
 #include "flow/BaseNode.h"
 #include "flow/Operations.h"
 #include "intake/CommonData.h"
+#include <MGraphX/OpaqueScaling.h>
 #include <QMWidgets/App.h>
 #include <QMWidgets/Label.h>
 #include <QMWidgets/MovieLabel.h>
@@ -52,7 +53,9 @@ NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
 
 void NodesOptionsPanel::setImage(QImage image)
 {
+    const bool hasAlpha = image.hasAlphaChannel();
     m_sourceImage = std::move(image).convertToFormat(QImage::Format_ARGB32);
+    m_sourceIsOpaque = !hasAlpha || MGraphX::isOpaque(m_sourceImage);
     slotParametersChanged();
     emit realPreview();
 }
@@ -129,7 +132,10 @@ QImage NodesOptionsPanel::workingCopy() const
     const int limit = int(kPreviewWidth * QMWidgets::App::devicePixelRatio());
     // Deliberate: only the width counts, so a narrow picture keeps its full height.
     if (CommonData::instance()->previewMode() && limit < m_sourceImage.width()) {
-        return m_sourceImage.scaled(limit, limit, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        const QSize box(limit, limit);
+        return m_sourceIsOpaque
+                   ? MGraphX::scaledOpaque(m_sourceImage, box)
+                   : m_sourceImage.scaled(box, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     }
     return m_sourceImage;
 }

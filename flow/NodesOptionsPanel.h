@@ -55,6 +55,7 @@ private:
     bool letEventsThrough(quint64 run);
 
     QImage m_sourceImage;
+    bool m_sourceIsOpaque = false;
     QMap<int, BaseNode*> m_flow;
     QMWidgets::Label* m_initLabel;
     QStackedWidget* m_stack;

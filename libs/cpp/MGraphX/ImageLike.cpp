@@ -5,15 +5,8 @@
 namespace MGraphX
 {
 
-QImage imageLike(const QImage& source, const QSize& size, QImage::Format format)
+void carryAlong(const QImage& source, QImage& image)
 {
-    if (size.isEmpty()) {
-        return QImage();
-    }
-    QImage image(size, format);
-    if (image.isNull()) {
-        return image;
-    }
     image.setColorSpace(source.colorSpace());
     image.setDotsPerMeterX(source.dotsPerMeterX());
     image.setDotsPerMeterY(source.dotsPerMeterY());
@@ -22,6 +15,17 @@ QImage imageLike(const QImage& source, const QSize& size, QImage::Format format)
     const QStringList keys = source.textKeys();
     for (const QString& key : keys) {
         image.setText(key, source.text(key));
+    }
+}
+
+QImage imageLike(const QImage& source, const QSize& size, QImage::Format format)
+{
+    if (size.isEmpty()) {
+        return QImage();
+    }
+    QImage image(size, format);
+    if (!image.isNull()) {
+        carryAlong(source, image);
     }
     return image;
 }

@@ -5,6 +5,9 @@
 namespace MGraphX
 {
 
+/// Gives `image` what `source` knows besides its pixels.
+void carryAlong(const QImage& source, QImage& image);
+
 /// Makes an image of `size` and `format` that carries on what `source` knows besides its pixels:
 /// colour space, resolution, texts, device pixel ratio and offset. Its pixels are not initialised.
 /// Errors: a null image if a side of `size` is below 1 or the memory isn't to be had.

@@ -10,8 +10,8 @@
 #include <functional>
 #include <vector>
 
-// Times a run of the live chain on a photo of 24 megapixels, with no node and with six of them, beside
-// the one smooth scaling that a run can't do without.
+// Times a run of the live chain on a photo of 24 megapixels, with no node and with six of them,
+// beside the one smooth scaling that a run can't do without.
 
 namespace
 {

@@ -5,4 +5,4 @@ cd "$(dirname "$0")/.."
 
 mode=(-i)
 [ "${1:-}" = --check ] && mode=(--dry-run -Werror)
-git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format-14 "${mode[@]}"
+git ls-files -z --cached --others --exclude-standard '*.cpp' '*.h' | xargs -0 clang-format-14 "${mode[@]}"

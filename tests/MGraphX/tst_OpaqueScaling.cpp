@@ -35,8 +35,7 @@ private slots:
 
     void opaqueMeansEveryPixel()
     {
-        QImage image =
-            randomImage(QSize(67, 5), QImage::Format_ARGB32, RandomAlpha::Opaque, 3);
+        QImage image = randomImage(QSize(67, 5), QImage::Format_ARGB32, RandomAlpha::Opaque, 3);
         QVERIFY(MGraphX::isOpaque(image));
         image.setPixel(66, 4, 0xfe000000u);
         QVERIFY(!MGraphX::isOpaque(image));

@@ -2,6 +2,7 @@
 
 #include "intake/BaseNameOf.h"
 #include "intake/CommonData.h"
+#include "intake/StepButtons.h"
 #include <QMWidgets/FileDialog.h>
 
 #include <QDragEnterEvent>
@@ -17,8 +18,8 @@
 CreatorDropArea::CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent)
     : QMWidgets::Label(parent),
       m_optionsPanel(panel),
-      m_nextButton(new QPushButton(this)),
-      m_previousButton(new QPushButton(this)),
+      m_nextButton(makeNextButton(this)),
+      m_previousButton(makePreviousButton(this)),
       m_counterLabel(new QLabel(this)),
       m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")),
                                    tr("Click to open the photos"), this))
@@ -30,10 +31,6 @@ CreatorDropArea::CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent)
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     setText(tr("<H2>Drop the photos here</H2>"));
 
-    m_nextButton->setObjectName(QStringLiteral("NextImageButton"));
-    m_nextButton->setAccessibleName(tr("Next photo"));
-    m_previousButton->setObjectName(QStringLiteral("PreviousImageButton"));
-    m_previousButton->setAccessibleName(tr("Previous photo"));
     m_openButton->setObjectName(QStringLiteral("PushButton"));
     m_openButton->setFixedHeight(32);
     setControlsVisible(false);

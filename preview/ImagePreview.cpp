@@ -1,6 +1,7 @@
 #include "preview/ImagePreview.h"
 
 #include "intake/CommonData.h"
+#include "intake/StepButtons.h"
 #include "preview/PositionText.h"
 #include <QMWidgets/App.h>
 
@@ -12,8 +13,8 @@
 
 ImagePreview::ImagePreview(QWidget* parent)
     : QMWidgets::Label(parent),
-      m_nextButton(new QPushButton(this)),
-      m_previousButton(new QPushButton(this)),
+      m_nextButton(makeNextButton(this)),
+      m_previousButton(makePreviousButton(this)),
       m_infoLabel(new QLabel(QStringLiteral("<H1>INFO</H1>"), this))
 {
     setFixedSize(360, 360);
@@ -21,10 +22,6 @@ ImagePreview::ImagePreview(QWidget* parent)
     setObjectName(QStringLiteral("DropArea"));
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 
-    m_nextButton->setObjectName(QStringLiteral("NextImageButton"));
-    m_nextButton->setAccessibleName(tr("Next photo"));
-    m_previousButton->setObjectName(QStringLiteral("PreviousImageButton"));
-    m_previousButton->setAccessibleName(tr("Previous photo"));
     setControlsVisible(false);
     connect(m_nextButton, &QPushButton::clicked, this, &ImagePreview::next);
     connect(m_previousButton, &QPushButton::clicked, this, &ImagePreview::previous);

@@ -1,0 +1,29 @@
+#include "intake/StepButtons.h"
+
+#include <QCoreApplication>
+#include <QPushButton>
+
+namespace
+{
+
+QPushButton* makeStepButton(const QString& objectName, const char* name, QWidget* parent)
+{
+    auto* button = new QPushButton(parent);
+    button->setObjectName(objectName);
+    button->setAccessibleName(QCoreApplication::translate("StepButtons", name));
+    return button;
+}
+
+} // namespace
+
+QPushButton* makeNextButton(QWidget* parent)
+{
+    return makeStepButton(QStringLiteral("NextImageButton"),
+                          QT_TRANSLATE_NOOP("StepButtons", "Next photo"), parent);
+}
+
+QPushButton* makePreviousButton(QWidget* parent)
+{
+    return makeStepButton(QStringLiteral("PreviousImageButton"),
+                          QT_TRANSLATE_NOOP("StepButtons", "Previous photo"), parent);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+class QPushButton;
+class QWidget;
+
+/// The arrows that step through the photos, wherever a photo is shown: picture-only buttons, named
+/// for the style sheet and for screen readers.
+QPushButton* makeNextButton(QWidget* parent);
+QPushButton* makePreviousButton(QWidget* parent);

@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 using QMWidgets::ColorWidget;
@@ -354,8 +355,12 @@ void WMRNode::slotWMRBrowse()
     }
     const QString fileName = QFileInfo(path).fileName();
     if (!m_logo.load(path)) {
+        const QString text = tr("Can not open the image file:") + fileName;
+        // The box shows markup, and a file's name may look like some.
         QMWidgets::MMessageBox::critical(
-            this, tr("Warning"), tr("Can not open the image file:") + fileName, QMessageBox::Ok, 0);
+            this, tr("Warning"),
+            Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text,
+            QMessageBox::Ok, 0);
         return;
     }
     m_logo = WMRXml::imageAsTold(m_logo);

@@ -6,8 +6,23 @@
 
 #include <QLineEdit>
 #include <QSignalSpy>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 using MGraphX::GraphX;
+
+namespace
+{
+
+/// What a label shows of a text that may be markup.
+QString shownText(const QLabel& label)
+{
+    return Qt::mightBeRichText(label.text())
+               ? QTextDocumentFragment::fromHtml(label.text()).toPlainText()
+               : label.text();
+}
+
+} // namespace
 
 class TestWMRLogo : public QObject
 {
@@ -62,11 +77,20 @@ private slots:
         QVERIFY(told(node, "ImageData").startsWith(QLatin1String("data:image/png;base64,")));
     }
 
+    void aFileThatIsNoImageGivesAWarning_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name : {"notes.txt", "<b>x.png", "a & b.png", "&lt;.png", "1 < 2.png"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
     void aFileThatIsNoImageGivesAWarning()
     {
+        QFETCH(QString, name);
         Photos files;
-        files.addFile(QStringLiteral("notes.txt"), "no image");
-        const QString file = files.path(QStringLiteral("notes.txt"));
+        files.addFile(name, "no image");
+        const QString file = files.path(name);
         const QImage photo = noise(QSize(90, 70), 5);
         WMRNode node(QStringLiteral("Watermark"), nullptr);
         kind(node)->setCurrentIndex(1);
@@ -84,12 +108,12 @@ private slots:
                                  [&texts](QDialog* dialog) {
                                      texts += dialog->windowTitle();
                                      for (const QLabel* label : dialog->findChildren<QLabel*>()) {
-                                         texts += label->text();
+                                         texts += shownText(*label);
                                      }
                                      buttonOf(dialog, QStringLiteral("Ok"))->click();
                                  }});
         QVERIFY(texts.contains(QStringLiteral("Warning")));
-        QVERIFY(texts.contains(QStringLiteral("Can not open the image file:notes.txt")));
+        QVERIFY(texts.contains(QStringLiteral("Can not open the image file:") + name));
         QCOMPARE(changed.count(), 0);
         COMPARE_IMAGES(WMRNode::processFromXml(photo, node.parametersText()), photo);
         QCOMPARE(told(node, "ImageName"), QStringLiteral("corvane.png"));

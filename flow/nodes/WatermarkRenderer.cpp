@@ -2,6 +2,7 @@
 
 #include "flow/Direction.h"
 #include "flow/nodes/MarkFontSize.h"
+#include "flow/nodes/MarkScaling.h"
 #include "flow/nodes/WMRParams.h"
 
 #include <limits>
@@ -123,6 +124,27 @@ bool canBeAllocated(const QSize& size)
            qint64(size.width()) * size.height() <= kMostPixels;
 }
 
+/// Whether the mark would take more memory than the photo, most of it for what doesn't show.
+bool isOutsized(const QSize& mark, const QSize& photo, const QImage& image)
+{
+    const auto pixels = [](const QSize& size) {
+        return qint64(size.width()) * size.height();
+    };
+    return pixels(mark) > pixels(photo) && canScalePart(image, mark);
+}
+
+/// The part `drawn` of the mark that fills `box`. Errors: a null image if it is too large.
+QImage scaledMark(const QImage& mark, const QRect& box, const QRect& drawn)
+{
+    if (drawn != box) {
+        return scaledPart(mark, box.size(), drawn.translated(-box.topLeft()));
+    }
+    if (!canBeAllocated(box.size())) {
+        return QImage();
+    }
+    return mark.scaled(box.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 QImage drawImage(const QImage& photo, const WMRParams& params)
 {
     if (params.image.isNull()) {
@@ -135,16 +157,17 @@ QImage drawImage(const QImage& photo, const WMRParams& params)
     }
     const QSize size = sizeInPhoto(params.image.size(), photo.width(), params.size);
     const QRect box = markBox(photo.size(), size, params);
-    if (box.isEmpty() || !canBeAllocated(box.size())) {
+    const QRect visible = box & photo.rect();
+    if (visible.isEmpty()) {
         return photo;
     }
-    const QImage mark =
-        params.image.scaled(box.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QRect drawn = isOutsized(box.size(), photo.size(), params.image) ? visible : box;
+    const QImage mark = scaledMark(params.image, box, drawn);
     if (mark.isNull()) {
         return photo;
     }
     return painted(photo, params.transparency,
-                   [&](QPainter& painter) { painter.drawImage(box, mark); });
+                   [&](QPainter& painter) { painter.drawImage(drawn, mark); });
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "flow/nodes/MarkFontSize.h"
+#include "flow/nodes/MarkScaling.h"
 #include "flow/nodes/WMRNode.h"
+#include "reference/WatermarkReference.h"
 #include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
@@ -66,24 +68,6 @@ QRect drawnBox(const QSize& photo, const WMRParams& params)
     return redBox(WMRNode::drawWatermark(whitePhoto(photo), params));
 }
 
-/// The search as it is defined, step by step.
-int literalFontSize(QFont font, const QString& text, qint64 target)
-{
-    const auto width = [&](int size) {
-        font.setPixelSize(size);
-        return QFontMetrics(font).horizontalAdvance(text);
-    };
-    int size = 2;
-    while (!(target < width(size))) {
-        size *= 2;
-    }
-    size /= 2;
-    while (!(target < width(size))) {
-        size += 1;
-    }
-    return size;
-}
-
 } // namespace
 
 class TestWatermark : public QObject
@@ -101,6 +85,7 @@ private slots:
         QTest::newRow("mixed") << QString::fromUtf8("© 2024 مثال");
         QTest::newRow("emoji") << QString::fromUtf8("📷👍🏽");
         QTest::newRow("combining") << QString::fromUtf8("e\u0301n\u0303");
+        QTest::newRow("spaces") << " a  b ";
         QTest::newRow("lines") << "one\ntwo\tthree";
         QTest::newRow("long") << QStringLiteral("All rights reserved. ").repeated(200);
     }
@@ -110,12 +95,15 @@ private slots:
         QFETCH(QString, text);
         QStringList families = QFontDatabase().families().mid(0, 2);
         families += {QFont().family(), QStringLiteral("no such font")};
-        for (const QString& family : qAsConst(families)) {
-            QFont font(family);
-            font.setBold(family.size() % 2 == 0);
-            font.setItalic(family.size() % 3 == 0);
-            for (const int target : {-50, 0, 1, 7, 20, 63, 130, 255, 256, 333}) {
-                QCOMPARE(markFontSize(font, text, target), literalFontSize(font, text, target));
+        for (int i = 0; i < families.size(); ++i) {
+            QFont font(families[i]);
+            font.setBold(families[i].size() % 2 == 0);
+            font.setItalic(families[i].size() % 3 == 0);
+            font.setHintingPreference(QFont::HintingPreference(i));
+            // The last ones take sizes at which not all are measured.
+            for (const int target : {-50, 0, 1, 7, 20, 63, 130, 255, 256, 333, 601, 1150}) {
+                QCOMPARE(markFontSize(font, text, target),
+                         reference::markFontSize(font, text, target));
             }
         }
     }
@@ -203,7 +191,7 @@ private slots:
         params.underlined = true;
         QFont font = params.font;
         font.setBold(true);
-        font.setPixelSize(literalFontSize(font, text, size.width() * params.size / 100));
+        font.setPixelSize(reference::markFontSize(font, text, size.width() * params.size / 100));
         const QFontMetrics metrics(font);
         const QSize box(metrics.horizontalAdvance(text) + 4, metrics.height() + 4);
         QVERIFY(box.width() > 304);
@@ -304,12 +292,73 @@ private slots:
         // A mark larger than the photo is cut off by it.
         QCOMPARE(redBox(drawn(WMRParams::kImageMode, &WMRParams::size, 900)),
                  QRect(QPoint(0, 0), size));
-        // Some proportions would need more memory than an image can have.
+        // Of a mark of 300 by 9000000 pixels, only what lies on the photo is made.
         WMRParams tall = redMark(WMRParams::kImageMode);
         tall.image = QImage(1, 30000, QImage::Format_ARGB32);
+        tall.image.fill(Qt::red);
         tall.size = 100;
         const QImage wide = whitePhoto(QSize(300, 20));
+        QCOMPARE(redBox(WMRNode::drawWatermark(wide, tall)), wide.rect());
+        // One of 16 bits a channel is made whole, and this one can't be.
+        tall.image = tall.image.convertToFormat(QImage::Format_RGBA64);
         COMPARE_IMAGES(WMRNode::drawWatermark(wide, tall), wide);
+    }
+
+    void aPartOfAScaledMarkIsAsInTheWhole()
+    {
+        const QSize marks[] = {{1, 1}, {1, 9}, {7, 1}, {5, 40}, {33, 21}};
+        const QSize sizes[] = {{33, 40}, {34, 41}, {70, 900}, {611, 57}, {40, 3000}};
+        for (const auto format :
+             {QImage::Format_ARGB32, QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied,
+              QImage::Format_Indexed8, QImage::Format_Mono, QImage::Format_RGB888}) {
+            for (const QSize& markSize : marks) {
+                const QImage mark =
+                    noise(markSize, quint32(markSize.width())).convertToFormat(format);
+                for (const QSize& size : sizes) {
+                    const QImage whole =
+                        mark.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+                    const QRect rect(QPoint(0, 0), size);
+                    for (const QRect& part : {rect, rect.adjusted(13, 17, -11, -9)}) {
+                        COMPARE_IMAGES(scaledPart(mark, size, part),
+                                       whole.copy(part).convertToFormat(
+                                           mark.hasAlphaChannel()
+                                               ? QImage::Format_ARGB32_Premultiplied
+                                               : QImage::Format_RGB32));
+                    }
+                }
+            }
+        }
+        const QImage mark = noise(QSize(9, 9), 1);
+        QVERIFY(!canScalePart(mark, QSize(8, 900)));
+        QVERIFY(!canScalePart(mark, QSize(900, 8)));
+        QVERIFY(!canScalePart(mark.convertToFormat(QImage::Format_RGBA64), QSize(99, 99)));
+    }
+
+    void aMarkIsThatOfThePlainSteps()
+    {
+        for (const auto format :
+             {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+            const QImage photo =
+                noise(QSize(400, 90), 6, QImage::Format_ARGB32, true).convertToFormat(format);
+            WMRParams params = redMark(WMRParams::kTextMode);
+            params.transparency = 25;
+            params.background = Qt::black;
+            for (int position = 0; position < 9; ++position) {
+                params.position = position;
+                params.xOffset = 11 * (position - 4);
+                params.yOffset = -params.xOffset / 2;
+                params.mode = WMRParams::kTextMode;
+                COMPARE_IMAGES(WMRNode::drawWatermark(photo, params),
+                               reference::watermark(photo, params));
+                params.mode = WMRParams::kImageMode;
+                // Wide, high beyond the photo, and scaled down.
+                for (const QSize& size : {QSize(20, 5), QSize(6, 150), QSize(500, 900)}) {
+                    params.image = noise(size, 5);
+                    COMPARE_IMAGES(WMRNode::drawWatermark(photo, params),
+                                   reference::watermark(photo, params));
+                }
+            }
+        }
     }
 
     void keepsWhatThePhotoIs()

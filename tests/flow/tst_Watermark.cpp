@@ -284,8 +284,10 @@ private slots:
                 COMPARE_IMAGES(drawn(mode, &WMRParams::yOffset, number), photo);
             }
             COMPARE_IMAGES(drawn(mode, &WMRParams::size, kHighest), photo);
-            COMPARE_IMAGES(drawn(mode, &WMRParams::size, 10000000), photo);
         }
+        COMPARE_IMAGES(drawn(WMRParams::kTextMode, &WMRParams::size, 10000000), photo);
+        QCOMPARE(redBox(drawn(WMRParams::kImageMode, &WMRParams::size, 10000000)),
+                 QRect(QPoint(0, 0), size));
         COMPARE_IMAGES(drawn(WMRParams::kImageMode, &WMRParams::size, kLowest), photo);
         COMPARE_IMAGES(drawn(WMRParams::kTextMode, &WMRParams::size, kLowest),
                        drawn(WMRParams::kTextMode, &WMRParams::size, 0));

@@ -47,13 +47,13 @@ double copySeconds(const QSize& size)
 }
 
 void runFilter(benchmark::State& state, const Filter& filter, const QSize& size,
-               QImage::Format format)
+               QImage::Format format, Alpha alpha)
 {
     static std::map<int, double> copies;
     if (copies.count(size.width()) == 0) {
         copies[size.width()] = copySeconds(size);
     }
-    const QImage photo = benchPhoto(size, format);
+    const QImage photo = benchPhoto(size, format, alpha);
     const double start = cpuSeconds();
     for (auto _ : state) {
         const QImage result = filter(photo);
@@ -66,7 +66,7 @@ void runFilter(benchmark::State& state, const Filter& filter, const QSize& size,
 
 } // namespace
 
-QImage benchPhoto(const QSize& size, QImage::Format format)
+QImage benchPhoto(const QSize& size, QImage::Format format, Alpha alpha)
 {
     std::minstd_rand noise(7);
     QImage photo(size, QImage::Format_ARGB32);
@@ -75,16 +75,17 @@ QImage benchPhoto(const QSize& size, QImage::Format format)
         for (int x = 0; x < size.width(); ++x) {
             const int wave = int(90 * std::sin(x * 0.003) * std::cos(y * 0.002)) + 120;
             const auto bits = quint32(noise());
-            row[x] = qRgb(wave + int(bits & 15),
-                          wave / 2 + int((bits >> 4) & 31) + x * 60 / size.width(),
-                          220 - wave + int((bits >> 9) & 15));
+            const int fade = y * 200 / size.height() + int((bits >> 13) & 31);
+            row[x] = qRgba(wave + int(bits & 15),
+                           wave / 2 + int((bits >> 4) & 31) + x * 60 / size.width(),
+                           220 - wave + int((bits >> 9) & 15), alpha == Alpha::Opaque ? 255 : fade);
         }
     }
     return photo.convertToFormat(format);
 }
 
 void benchFilter(const std::string& name, const Filter& fast, const Filter& plain,
-                 QImage::Format format)
+                 QImage::Format format, Alpha alpha)
 {
     const struct {
         const char* suffix;
@@ -100,7 +101,7 @@ void benchFilter(const std::string& name, const Filter& fast, const Filter& plai
             const QSize pixels = size.size;
             benchmark::RegisterBenchmark(
                 (name + size.suffix + way.suffix).c_str(),
-                [=](benchmark::State& state) { runFilter(state, filter, pixels, format); })
+                [=](benchmark::State& state) { runFilter(state, filter, pixels, format, alpha); })
                 ->Unit(benchmark::kMillisecond);
         }
     }

@@ -19,11 +19,12 @@ void benchBlur(const std::string& name, QImage::Format format)
         format);
 }
 
-void benchVignette(const std::string& name, QImage::Format format)
+void benchVignette(const std::string& name, QImage::Format format, Alpha alpha)
 {
     benchFilter(
         name, [](const QImage& image) { return MGraphX::vignetteImage(image, 65, 80, Qt::black); },
-        [](const QImage& image) { return reference::vignette(image, 65, 80, Qt::black); }, format);
+        [](const QImage& image) { return reference::vignette(image, 65, 80, Qt::black); }, format,
+        alpha);
 }
 
 } // namespace
@@ -32,7 +33,8 @@ int main(int argc, char** argv)
 {
     benchBlur("blur", QImage::Format_ARGB32);
     benchBlur("blur_premultiplied", QImage::Format_ARGB32_Premultiplied);
-    benchVignette("vignette", QImage::Format_ARGB32);
-    benchVignette("vignette_premultiplied", QImage::Format_ARGB32_Premultiplied);
+    benchVignette("vignette", QImage::Format_ARGB32, Alpha::Opaque);
+    benchVignette("vignette_translucent", QImage::Format_ARGB32, Alpha::Soft);
+    benchVignette("vignette_premultiplied", QImage::Format_ARGB32_Premultiplied, Alpha::Opaque);
     return runBenchmarks(argc, argv);
 }

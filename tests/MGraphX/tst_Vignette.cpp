@@ -42,7 +42,12 @@ void tst_Vignette::equalsThePaintingsOnLargePhotos_data()
     QTest::newRow("square") << QSize(801, 801);
     QTest::newRow("low") << QSize(2000, 2);
     QTest::newRow("narrow") << QSize(9, 2000);
-    QTest::newRow("narrower") << QSize(3, 1000);
+    QTest::newRow("a column") << QSize(1, 1000);
+    QTest::newRow("two columns") << QSize(2, 1700);
+    QTest::newRow("a row") << QSize(1000, 1);
+    QTest::newRow("odd span") << QSize(2049, 300);
+    QTest::newRow("even span") << QSize(4096, 60);
+    QTest::newRow("narrow beyond a span") << QSize(5, 4500);
 }
 
 void tst_Vignette::equalsThePaintingsOnLargePhotos()

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <QRadialGradient>
-#include <vector>
 
 namespace MGraphX
 {
@@ -57,20 +56,45 @@ GradientRows::GradientRows(int side, QImage::Format format, const VignetteLook& 
     : m_side(side),
       m_clearRadius(0.49 * look.radius), // half of it is clear; the rest is for rounding
       m_clear(filledWord(format, kClear)),
+      m_to(side),
       m_strip(side, 1, format),
       m_painter(&m_strip)
 {
     takeUp(m_painter, side, look);
-    // Should the painter's spans be of another length, the middle row shows it.
-    const uint32_t* words = row(side / 2);
-    const std::vector<uint32_t> whole(words, words + side);
+    // The painter knows a row by the square of its distance alone, and its spans are all of one
+    // length. Should either be otherwise, a row shows it.
+    const int upper = side / 4;
+    const bool isEven = wholeRow(upper) == wholeRow(mirrored(upper));
+    const std::vector<uint32_t> whole = wholeRow(side / 2);
     m_skipsCentre = true;
-    words = row(side / 2);
-    m_skipsCentre = std::equal(whole.begin(), whole.end(), words);
+    m_skipsCentre = whole == wholeRow(side / 2);
+    m_isEven = isEven;
 }
 
-uint32_t* GradientRows::row(int y)
+const uint32_t* GradientRows::words() const
 {
+    return reinterpret_cast<const uint32_t*>(m_strip.constBits());
+}
+
+std::vector<uint32_t> GradientRows::wholeRow(int y)
+{
+    m_painted = -1;
+    const uint32_t* first = row(y);
+    return {first, first + m_side};
+}
+
+void GradientRows::setColumns(int from, int to)
+{
+    m_from = from / kSpan * kSpan;
+    m_to = to;
+    m_painted = -1;
+}
+
+const uint32_t* GradientRows::row(int y)
+{
+    if (m_painted >= 0 && (y == m_painted || (m_isEven && y == mirrored(m_painted)))) {
+        return words();
+    }
     const double middle = m_side / 2;
     const double distance = y + 0.5 - middle;
     int from = m_side;
@@ -88,14 +112,18 @@ uint32_t* GradientRows::row(int y)
         }
     }
     paint(y, from, to);
-    return reinterpret_cast<uint32_t*>(m_strip.bits());
+    m_painted = y;
+    return words();
 }
 
 /// Paints what lies outside the words from `clearFrom` up to `clearTo`.
 void GradientRows::paint(int y, int clearFrom, int clearTo)
 {
-    std::fill_n(reinterpret_cast<uint32_t*>(m_strip.bits()), m_side, m_clear);
-    const QRect parts[] = {QRect(0, y, clearFrom, 1), QRect(clearTo, y, m_side - clearTo, 1)};
+    auto* words = reinterpret_cast<uint32_t*>(m_strip.bits());
+    std::fill(words + m_from, words + m_to, m_clear);
+    const int left = std::min(clearFrom, m_to);
+    const int right = std::max(clearTo, m_from);
+    const QRect parts[] = {QRect(m_from, y, left - m_from, 1), QRect(right, y, m_to - right, 1)};
     m_painter.setTransform(QTransform::fromTranslate(0, -y));
     for (const QRect& part : parts) {
         if (!part.isEmpty()) {

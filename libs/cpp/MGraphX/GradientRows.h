@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QImage>
 #include <QPainter>
+#include <vector>
 
 namespace MGraphX
 {
@@ -26,16 +27,29 @@ public:
     GradientRows(int side, QImage::Format format, const VignetteLook& look);
     Q_DISABLE_COPY(GradientRows)
 
-    /// Row `y`; `side` words, good until the next call.
-    uint32_t* row(int y);
+    /// Paints only the columns from `from` up to `to` from now on; the others hold anything.
+    void setColumns(int from, int to);
+
+    /// Row `y`; `side` words, good until the next call. Asking for a row and then for its mirror
+    /// image paints only once.
+    const uint32_t* row(int y);
+
+    /// The row as far from the centre as `y`, on the other side.
+    int mirrored(int y) const { return m_side / 2 * 2 - 1 - y; }
 
 private:
+    const uint32_t* words() const;
+    std::vector<uint32_t> wholeRow(int y);
     void paint(int y, int clearFrom, int clearTo);
 
     const int m_side;
     const double m_clearRadius;
     const uint32_t m_clear;
+    int m_from = 0;
+    int m_to;
+    int m_painted = -1;
     bool m_skipsCentre = false;
+    bool m_isEven = false;
     QImage m_strip;
     QPainter m_painter;
 };

@@ -2,10 +2,12 @@
 
 #include "GradientRows.h"
 #include "kernels/SourceOverKernel.h"
-#include "OpaqueTones.h"
+#include "kernels/StraightOverKernel.h"
 #include "PixelRows.h"
+#include "StraightOver.h"
 
 #include <algorithm>
+#include <numeric>
 #include <QPainter>
 #include <vector>
 
@@ -16,7 +18,8 @@ namespace
 
 /// Which of the `side` rows of a square the painter takes for each of `length` rows when it
 /// squeezes the square into an image of `format`; for columns it takes the same. Found by letting
-/// it squeeze a column whose words are their own numbers.
+/// it squeeze a column whose words are their own numbers. Fewer than `length` where the image goes
+/// on beyond what it paints.
 std::vector<int> sampledPlaces(int side, int length, QImage::Format format)
 {
     QImage numbers(1, side, format);
@@ -29,20 +32,10 @@ std::vector<int> sampledPlaces(int side, int length, QImage::Format format)
     painter.drawImage(QRect(0, 0, 1, length), numbers);
     painter.end();
     std::vector<int> places;
-    for (int i = 0; i < length; ++i) {
+    for (int i = 0; i < length && *sourceRow(sampled, i) != 0; ++i) {
         places.push_back(int(*sourceRow(sampled, i) & 0x00ffffffu));
     }
     return places;
-}
-
-/// Lays the words `over` over as many of `target` with the toolkit's painter.
-void paintOver(const uint32_t* over, uint32_t* target, int width, QImage::Format format)
-{
-    const int bytes = width * int(sizeof(uint32_t));
-    const QImage mask(reinterpret_cast<const uchar*>(over), width, 1, bytes, format);
-    QImage row(reinterpret_cast<uchar*>(target), width, 1, bytes, format);
-    QPainter painter(&row);
-    painter.drawImage(row.rect(), mask);
 }
 
 /// Lays the whole square over a copy of `source`.
@@ -59,38 +52,61 @@ QImage withPaintedSquare(const QImage& source, const VignetteLook& look)
     return result;
 }
 
-/// Lays the square's rows over the image's rows one by one.
-QImage withPaintedRows(const QImage& source, const VignetteLook& look)
+/// The numbers of `places`, ordered so that a row and its mirror image follow each other.
+std::vector<int> pairedOrder(const std::vector<int>& places, const GradientRows& gradient)
 {
+    std::vector<int> order(places.size());
+    std::iota(order.begin(), order.end(), 0);
+    const auto upper = [&](int y) {
+        return std::min(places[size_t(y)], gradient.mirrored(places[size_t(y)]));
+    };
+    std::stable_sort(order.begin(), order.end(),
+                     [&upper](int a, int b) { return upper(a) < upper(b); });
+    return order;
+}
+
+/// Lays what the painter would sample of the square over a copy of `source`, row by row. The
+/// painter itself gets the words that the kernels leave, all at once.
+QImage withSampledRows(const QImage& source, const VignetteLook& look)
+{
+    const QImage::Format format = source.format();
     const int width = source.width();
     const int side = std::max(width, source.height());
-    QImage result = imageLike(source, source.size(), source.format());
-    const std::vector<int> rows = sampledPlaces(side, result.height(), source.format());
-    const std::vector<int> columns = sampledPlaces(side, width, source.format());
-    GradientRows gradient(side, source.format(), look);
-    OpaqueTones tones;
-    for (int y = 0; y < result.height(); ++y) {
+    const std::vector<int> rows = sampledPlaces(side, source.height(), format);
+    const std::vector<int> columns = sampledPlaces(side, width, format);
+    GradientRows gradient(side, format, look);
+    gradient.setColumns(columns.front(), columns.back() + 1);
+    const bool premultiplied = format == QImage::Format_ARGB32_Premultiplied;
+    const int fast = premultiplied ? width : straightOverCount(width);
+    QImage rest(width - fast, source.height(), format);
+    QImage result = imageLike(source, source.size(), format);
+    std::vector<uint32_t> sampled(size_t(width), 0);
+    for (const int y : pairedOrder(rows, gradient)) {
         const uint32_t* under = sourceRow(source, y);
         for (int x = 0; x < width; x += kernels::kLineWords) {
             kernels::prefetch(under, x);
         }
-        uint32_t* over = gradient.row(rows[size_t(y)]);
+        const uint32_t* over = gradient.row(rows[size_t(y)]);
         if (width < side) {
-            // No place lies left of its column: words can move within the row.
-            std::transform(columns.begin(), columns.end(), over,
+            std::transform(columns.begin(), columns.end(), sampled.begin(),
                            [over](int place) { return over[place]; });
+            over = sampled.data();
         }
         uint32_t* target = targetRow(result, y);
-        if (source.format() == QImage::Format_ARGB32_Premultiplied) {
+        if (premultiplied) {
             kernels::sourceOverRow(over, under, target, width);
-        } else if (kernels::isOpaqueRow(under, width)) {
-            tones.layRow(over, under, target, width);
         } else {
-            // Translucent words below: only the toolkit knows how it rounds there and back.
-            std::copy_n(under, width, target);
-            paintOver(over, target, width, source.format());
+            kernels::straightOverRow(over, under, target, fast);
+            std::copy(under + fast, under + width, target + fast);
+        }
+        if (!rest.isNull()) {
+            std::copy(over + fast, over + width, targetRow(rest, y));
         }
     }
+    for (int y = int(rows.size()); y < result.height(); ++y) {
+        std::copy_n(sourceRow(source, y), width, targetRow(result, y));
+    }
+    paintOver(rest, result, fast);
     return result;
 }
 
@@ -98,10 +114,8 @@ QImage withPaintedRows(const QImage& source, const VignetteLook& look)
 
 QImage vignetteImage(const QImage& image, int radius, int opacity, const QColor& color)
 {
-    // What is asked of the painter beforehand pays for more pixels than the preview has. It also
-    // has a way of its own with single pixels, which rows of them must not take.
+    // What is asked of the painter beforehand pays for more pixels than the preview has.
     constexpr int64_t kManyPixels = 1 << 19;
-    constexpr int kLeastWidth = 8;
     const bool premultiplied = image.format() == QImage::Format_ARGB32_Premultiplied;
     const QImage source = premultiplied ? image : image.convertToFormat(QImage::Format_ARGB32);
     if (source.isNull()) {
@@ -109,9 +123,8 @@ QImage vignetteImage(const QImage& image, int radius, int opacity, const QColor&
     }
     const int64_t side = std::max(source.width(), source.height());
     const VignetteLook look{double(radius * side / 100), opacity, color};
-    return side * side < kManyPixels || source.width() < kLeastWidth
-               ? withPaintedSquare(source, look)
-               : withPaintedRows(source, look);
+    return side * side < kManyPixels ? withPaintedSquare(source, look)
+                                     : withSampledRows(source, look);
 }
 
 } // namespace MGraphX

@@ -1,0 +1,162 @@
+#include "StraightOverKernel.h"
+
+#include "Multiversion.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+#ifdef __SSE__
+#include <xmmintrin.h>
+#endif
+
+namespace
+{
+
+constexpr int kGroup = MGraphX::kernels::kStraightGroup;
+constexpr int kPiece = 256;
+constexpr uint32_t kFull = 0xffff;
+
+/// 255 / alpha for each alpha of 16 bits; 0 for 0. Not the quotient but what one Newton step makes
+/// of the processor's estimate, since that is what the painter multiplies with: a product that
+/// lies at a half is rounded by the last bit.
+std::vector<float> factorsBack()
+{
+    std::vector<float> factors(kFull + 1);
+    for (uint32_t alpha = 1; alpha <= kFull; ++alpha) {
+        const auto value = float(alpha);
+#ifdef __SSE__
+        const float estimate = _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(value)));
+#else
+        const float estimate = 1.0f / value;
+#endif
+        const float better = (estimate + estimate) - estimate * (estimate * value);
+        factors[alpha] = better * 255.0f;
+    }
+    return factors;
+}
+
+/// A colour of 8 bits as a premultiplied one of 16, given its product with an alpha of 8 bits.
+/// `full` is 0xffff where no multiplication takes place. Deliberate: rounded as the painter's
+/// product of high halves is, 257 * 257 * x / 65536 being x + 513 * x / 65536.
+MGRAPHX_INLINE uint32_t wide(uint32_t colour, uint32_t x, uint32_t full)
+{
+    const uint32_t product = x + (((x << 9) + x) >> 16);
+    const uint32_t premultiplied = product + (product >> 15);
+    return premultiplied ^ ((premultiplied ^ (colour | colour << 8)) & full);
+}
+
+/// The nearest whole number to value * share / 65535.
+MGRAPHX_INLINE uint32_t part(uint32_t value, uint32_t share)
+{
+    const uint32_t product = value * share;
+    return (product + (product >> 16) + 0x8000u) >> 16;
+}
+
+/// The nearest whole number, at a half the even one, for 0 up to 2^22: the addition leaves no bits
+/// for a fraction.
+MGRAPHX_INLINE uint32_t nearest(float value)
+{
+    const float shifted = value + 8388608.0f;
+    uint32_t bits = 0;
+    std::memcpy(&bits, &shifted, sizeof(bits));
+    return bits & 0xffu;
+}
+
+/// For each word all bits of 16 if its whole group is opaque, else none.
+MGRAPHX_INLINE void findOpaque(const uint32_t* words, int count, uint32_t* full)
+{
+    for (int first = 0; first < count; first += kGroup) {
+        uint32_t common = 0xffffffffu;
+        for (int i = first; i < first + kGroup; ++i) {
+            common &= words[i];
+        }
+        for (int i = first; i < first + kGroup; ++i) {
+            full[i] = common >> 24 == 0xff ? kFull : 0;
+        }
+    }
+}
+
+/// Whether `over` is clear and all words of `under` come back from their way as they went. All do
+/// but those of the least alpha, and what is as clear loses its colour.
+MGRAPHX_MULTIVERSION
+bool changesNothing(const uint32_t* over, const uint32_t* under, int count)
+{
+    uint32_t alphas = 0;
+    uint32_t least = 0;
+    for (int i = 0; i < count; ++i) {
+        alphas |= over[i];
+        least |= under[i] >> 24 == 1 ? 1u : 0u;
+    }
+    return alphas >> 24 == 0 && least == 0;
+}
+
+MGRAPHX_MULTIVERSION
+void keepVisible(const uint32_t* under, uint32_t* target, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        target[i] = under[i] >> 24 == 0 ? 0 : under[i];
+    }
+}
+
+// Each loop does one thing to a piece that stays in the cache, so that all but the look-up become
+// vectors; no word depends on another but through its group's opacity.
+MGRAPHX_MULTIVERSION
+void straightOver(const uint32_t* over, const uint32_t* under, uint32_t* target, int count,
+                  const float* factors)
+{
+    constexpr uint32_t kOuter = 0x00ff00ffu;
+    uint32_t overFull[kPiece];
+    uint32_t underFull[kPiece];
+    uint32_t alphas[kPiece];
+    float back[kPiece];
+    findOpaque(over, count, overFull);
+    findOpaque(under, count, underFull);
+    for (int i = 0; i < count; ++i) {
+        const uint32_t overAlpha = (over[i] >> 24) * 257;
+        alphas[i] = overAlpha + part((under[i] >> 24) * 257, kFull - overAlpha);
+    }
+    for (int i = 0; i < count; ++i) {
+        back[i] = factors[alphas[i]];
+    }
+    for (int i = 0; i < count; ++i) {
+        const uint32_t o = over[i];
+        const uint32_t u = under[i];
+        const uint32_t through = kFull - (o >> 24) * 257;
+        // Two products of two bytes share a word.
+        const uint32_t overOuter = (o & kOuter) * (o >> 24);
+        const uint32_t underOuter = (u & kOuter) * (u >> 24);
+        const uint32_t overs[] = {overOuter & 0xffffu, ((o >> 8) & 0xffu) * (o >> 24),
+                                  overOuter >> 16};
+        const uint32_t unders[] = {underOuter & 0xffffu, ((u >> 8) & 0xffu) * (u >> 24),
+                                   underOuter >> 16};
+        const uint32_t rounded = alphas[i] + 128;
+        uint32_t word = ((rounded - (rounded >> 8)) & 0xff00u) << 16;
+        for (int k = 0; k < 3; ++k) {
+            const uint32_t colour =
+                wide((o >> (8 * k)) & 0xffu, overs[k], overFull[i]) +
+                part(wide((u >> (8 * k)) & 0xffu, unders[k], underFull[i]), through);
+            word |= nearest(float(int32_t(colour)) * back[i]) << (8 * k);
+        }
+        target[i] = word;
+    }
+}
+
+} // namespace
+
+namespace MGraphX::kernels
+{
+
+void straightOverRow(const uint32_t* over, const uint32_t* under, uint32_t* target, int count)
+{
+    static const std::vector<float> factors = factorsBack();
+    for (int i = 0; i < count; i += kPiece) {
+        const int piece = std::min(kPiece, count - i);
+        if (changesNothing(over + i, under + i, piece)) {
+            keepVisible(under + i, target + i, piece);
+        } else {
+            straightOver(over + i, under + i, target + i, piece, factors.data());
+        }
+    }
+}
+
+} // namespace MGraphX::kernels

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "flow/HandOver.h"
+
 #include <QFrame>
 #include <QImage>
 #include <QString>
@@ -73,7 +75,13 @@ protected:
     template <class Filter> void runFilter(QImage& image, Filter filter)
     {
         if (isActive()) {
-            image = QtConcurrent::run([image, filter] { return filter(image); }).result();
+            image = QtConcurrent::run([image, filter, handOver = HandOver()] {
+                        HandOver::take();
+                        QImage result = filter(image);
+                        HandOver::give();
+                        return result;
+                    }).result();
+            HandOver::take();
         }
         reportPreview(image);
     }

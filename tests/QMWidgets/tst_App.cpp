@@ -4,7 +4,6 @@
 #include <QLocale>
 #include <QMWidgets/App.h>
 #include <QMWidgets/BuildDate.h>
-#include <QMWidgets/WindowsVersionName.h>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -49,27 +48,6 @@ private slots:
         QLocale::setDefault(before);
         QCOMPARE(read, date);
         QVERIFY(App::app()->buildDate().isValid());
-    }
-
-    void namesWindowsVersions()
-    {
-        const QMap<int, QString> names = {
-            {32, QStringLiteral("Win 2000")}, {48, QStringLiteral("Win XP")},
-            {64, QStringLiteral("Win 2003")}, {128, QStringLiteral("Win Vista")},
-            {144, QStringLiteral("Win 7")},   {160, QStringLiteral("Win 8")},
-            {176, QStringLiteral("Win 8.1")}, {192, QStringLiteral("Win (192)")},
-            {0, QStringLiteral("Win (0)")},   {-1, QStringLiteral("Win (-1)")}};
-        for (auto it = names.begin(); it != names.end(); ++it) {
-            QCOMPARE(QMWidgets::windowsVersionName(it.key()), it.value());
-        }
-        QVERIFY(!App::app()->systemName().isEmpty());
-    }
-
-    void smallDesktops()
-    {
-        QVERIFY(!App::isSmallDesktop(QSize(480, 480)));
-        QVERIFY(App::isSmallDesktop(QSize(479, 2000)));
-        QVERIFY(App::isSmallDesktop(QSize(2000, 479)));
     }
 
     void tellsOfEvents()

@@ -59,13 +59,6 @@ class tst_AppFolders : public QObject
     Q_OBJECT
 
 private slots:
-    void startsInAFreshHome()
-    {
-        QVERIFY(App::app()->firstRun());
-        QVERIFY(QFileInfo(App::appHomeFolder(false)).isDir());
-        QVERIFY(!App::hasNoFolders());
-    }
-
     void eachFolderCountsAsAnEarlierRun_data()
     {
         QTest::addColumn<Folder>("folder");

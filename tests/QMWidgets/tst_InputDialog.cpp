@@ -6,7 +6,6 @@
 #include <QMWidgets/InputDialog.h>
 #include <QScreen>
 #include <QSpinBox>
-#include <QStackedWidget>
 
 using QMWidgets::App;
 using QMWidgets::InputDialog;
@@ -122,16 +121,6 @@ private slots:
         QCOMPARE(withModalDialog(ask, [&parent](QDialog*) { parent.reset(); }),
                  QStringLiteral("old"));
         QVERIFY(!ok);
-    }
-
-    void showsTheControlOfItsMode()
-    {
-        for (const int mode : {0, 1, 7}) {
-            InputDialog dialog(kLabel, nullptr, nullptr, Qt::WindowFlags(), mode);
-            QCOMPARE(dialog.mode(), mode);
-            const QWidget* current = dialog.findChild<QStackedWidget*>()->currentWidget();
-            QCOMPARE(qobject_cast<const QLineEdit*>(current) != nullptr, mode == 1);
-        }
     }
 
     void buttonsStandInAColumnOnASmallScreen()

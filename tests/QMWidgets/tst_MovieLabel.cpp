@@ -60,14 +60,6 @@ private slots:
         }
     }
 
-    void leavesAMargin()
-    {
-        MovieLabel label(m_file);
-        label.resize(360, 64);
-        label.show();
-        QCOMPARE(label.movie()->scaledSize(), QSize(327, 58));
-    }
-
 private:
     QTemporaryDir m_dir;
     QString m_file;

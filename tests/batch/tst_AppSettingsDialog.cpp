@@ -58,21 +58,6 @@ class TestAppSettingsDialog : public QObject
 private slots:
     void init() { QSettings(QStringLiteral("Corvane"), QStringLiteral("Tessarin")).clear(); }
 
-    void startsWithTheDefaults()
-    {
-        Settings settings;
-        QCOMPARE(settings.format()->currentText(), QStringLiteral("JPEG"));
-        QCOMPARE(settings.quality()->value(), 90);
-        QVERIFY(settings.quality()->isEnabled());
-        QVERIFY(!settings.rename()->isChecked());
-        QCOMPARE(settings.newName()->text(), QStringLiteral("NewName"));
-        QCOMPARE(settings.numbers()->currentText(), QStringLiteral("All"));
-        QVERIFY(settings.open()->isChecked());
-        QCOMPARE(AppSettingsDialog::keyFormat(), QStringLiteral("JPEG"));
-        QCOMPARE(AppSettingsDialog::keyQuality(), 90);
-        QVERIFY(AppSettingsDialog::keyOpenLocation());
-    }
-
     void okKeepsWhatWasChosen()
     {
         {

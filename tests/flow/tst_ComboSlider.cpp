@@ -1,7 +1,6 @@
 #include "flow/ComboSlider.h"
 #include "support/TestMain.h"
 
-#include <QLabel>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
@@ -48,22 +47,6 @@ private slots:
         control.setRange(8, 5000);
         QCOMPARE(moved.count(), 1);
         QCOMPARE(control.value(), 8);
-    }
-
-    void stepAndTextsReachTheirControls()
-    {
-        ComboSlider control(QStringLiteral("Size:"), nullptr);
-        control.setSingleStep(5);
-        QCOMPARE(control.findChild<QSlider*>()->singleStep(), 5);
-        QCOMPARE(control.findChild<QSpinBox*>()->singleStep(), 1);
-        control.show();
-        const QList<QLabel*> labels = control.findChildren<QLabel*>();
-        QVERIFY(labels.first()->isVisible());
-        QVERIFY(!labels.last()->isVisible());
-        control.setUnit(QStringLiteral("%"));
-        QVERIFY(labels.last()->isVisible());
-        control.setUnit(QString());
-        QVERIFY(!labels.last()->isVisible());
     }
 };
 

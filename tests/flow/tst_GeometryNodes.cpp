@@ -6,7 +6,6 @@
 
 #include <limits>
 #include <MGraphX/GraphX.h>
-#include <QMWidgets/ColorWidget.h>
 #include <QPushButton>
 
 using MGraphX::GraphX;
@@ -144,16 +143,6 @@ private slots:
         COMPARE_IMAGES(live.copy(3, 3, 100, 20), source);
         COMPARE_IMAGES(batched("Frame", source, text), live);
         COMPARE_IMAGES(batched("Frame", source, node->parametersText()), live);
-    }
-
-    void swatchesKeepTheirSize()
-    {
-        for (const char* name : {"Frame", "Vignetting"}) {
-            const auto node = makeNode(name);
-            const auto* swatch = node->findChild<QMWidgets::ColorWidget*>();
-            QCOMPARE(swatch->minimumSize(), QSize(64, 32));
-            QCOMPARE(swatch->maximumSize(), QSize(64, 32));
-        }
     }
 };
 

@@ -46,41 +46,6 @@ class TestNodes : public QObject
     Q_OBJECT
 
 private slots:
-    void defaults_data()
-    {
-        QTest::addColumn<QString>("operation");
-        QTest::addColumn<QStringList>("parameters");
-        const auto row = [](const char* name, const QStringList& parameters) {
-            QTest::newRow(name) << QString::fromLatin1(name)
-                                << (QStringList(QStringLiteral("Active=yes")) + parameters);
-        };
-        row("Brightness, Contrast, Saturation",
-            {QStringLiteral("Brightness=0"), QStringLiteral("Contrast=0"),
-             QStringLiteral("Saturation=100")});
-        row("Crop", {QStringLiteral("Left=0"), QStringLiteral("Right=0"), QStringLiteral("Top=0"),
-                     QStringLiteral("Bottom=0")});
-        row("Resize",
-            {QStringLiteral("Mode=0"), QStringLiteral("Width=50"), QStringLiteral("Height=50")});
-        row("Rotate", {QStringLiteral("Angle=90")});
-        row("Mirror", {QStringLiteral("Horizontal=yes"), QStringLiteral("Vertical=no")});
-        row("Histogram optimizer", {QStringLiteral("Left=0"), QStringLiteral("Right=0")});
-        row("Vignetting", {QStringLiteral("Radius=65"), QStringLiteral("Opacity=80"),
-                           QStringLiteral("Color=#000000")});
-        row("Frame", {QStringLiteral("Width=2"), QStringLiteral("Color=#00ff00")});
-        row("RGB-Order", {QStringLiteral("Mode=0")});
-        row("Blur", {QStringLiteral("Radius=10")});
-        row("Invert", {});
-        row("Binarization", {QStringLiteral("Threshold=127")});
-        row("Grayscale", {});
-    }
-
-    void defaults()
-    {
-        QFETCH(QString, operation);
-        const auto node = makeNode(qPrintable(operation));
-        QTEST(written(*node), "parameters");
-    }
-
     void readingIsTolerant()
     {
         const auto node = makeNode("Brightness, Contrast, Saturation");
@@ -249,6 +214,8 @@ private slots:
         const QString width = QStringLiteral("<P><Width>200</Width></P>");
         QCOMPARE(batched("Frame", source, width).pixel(0, 0), qRgb(0, 0, 0));
         QCOMPARE(batched("Resize", source, width).size(), QSize(38, 11));
+        COMPARE_IMAGES(batched("RGB-Order", source, QStringLiteral("<P><Mode>3</Mode></P>")),
+                       source);
     }
 
     void numbersOutOfAllRangeDoNoHarm()
@@ -266,13 +233,6 @@ private slots:
                 }
             }
         }
-    }
-
-    void aHandMadeModeOfTheBatchChangesNothing()
-    {
-        const QImage source = noise(QSize(9, 5), 1);
-        COMPARE_IMAGES(batched("RGB-Order", source, QStringLiteral("<P><Mode>3</Mode></P>")),
-                       source);
     }
 };
 

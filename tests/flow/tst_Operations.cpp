@@ -26,13 +26,7 @@ private slots:
             QCOMPARE(findOperation(operation.name), &operation);
             QVERIFY2(sameIcon(operation.name, operation.icon), qPrintable(operation.name));
         }
-    }
-
-    void namesAreComparedWhole()
-    {
         QVERIFY(!findOperation(QStringLiteral("grayscale")));
-        QVERIFY(!findOperation(QStringLiteral("Grayscale ")));
-        QVERIFY(!findOperation(QString()));
     }
 
     void iconsAreFoundByContainment()

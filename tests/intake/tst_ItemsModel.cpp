@@ -35,19 +35,6 @@ private slots:
         QCOMPARE(model.rowCount(), 0);
     }
 
-    void thumbnailIsCentredOnClearGround()
-    {
-        Photos photos;
-        ItemsModel model;
-        model.setItems({photos.add(QStringLiteral("wide.png"), QSize(960, 480))});
-        const QImage image = thumbnail(model, 0);
-        QCOMPARE(image.size(), QSize(48, 48));
-        QCOMPARE(qAlpha(image.pixel(24, 0)), 0);
-        QCOMPARE(qAlpha(image.pixel(24, 47)), 0);
-        QCOMPARE(qAlpha(image.pixel(0, 24)), 255);
-        QCOMPARE(qAlpha(image.pixel(47, 24)), 255);
-    }
-
     void thumbnailOfAnyReadableFile_data()
     {
         QTest::addColumn<QImage>("picture");

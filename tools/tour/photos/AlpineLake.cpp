@@ -1,8 +1,8 @@
 #include "photos/AlpineLake.h"
 
-#include "photos/Film.h"
 #include "photos/Landscape.h"
 #include "photos/Noise.h"
+#include "photos/Skies.h"
 #include "photos/Terrain.h"
 #include "photos/Trees.h"
 
@@ -67,41 +67,14 @@ private:
     }
 };
 
-Sky morning()
-{
-    Sky sky;
-    sky.sun = normalized({-0.72, 0.50, -0.20});
-    sky.zenith = {0.085, 0.21, 0.52};
-    sky.horizon = {0.50, 0.64, 0.80};
-    sky.sunLight = {2.55, 2.25, 1.85};
-    sky.glow = 0.12;
-    sky.disc = 0;
-    sky.cover = 0.02;
-    sky.cloudScale = 0.75;
-    sky.cloudLit = {1.45, 1.42, 1.38};
-    sky.cloudShade = {0.60, 0.66, 0.78};
-    sky.seed = 404;
-    return sky;
-}
-
 } // namespace
 
 QImage paintAlpineLake(const QSize& size)
 {
-    Landscape::View view;
-    view.size = size;
-    view.focal = 0.92;
-    view.horizon = 0.56;
-    view.eye = 9;
-    view.nearest = 12;
-    view.farthest = 12500;
+    Landscape::View view{size, 0.92, 0.56, 9, 12, 12500};
     view.water = 0;
     view.haze = 1.0 / 15000;
     view.hazeHeight = 900;
     view.ambient = {0.20, 0.27, 0.40};
-    const Sky sky = morning();
-    const Mountains mountains;
-    Film film;
-    film.seed = 21;
-    return film.develop(Landscape(view, sky, mountains).paint());
+    return photograph(view, Skies::alpineMorning(), Mountains(), 21);
 }

@@ -1,8 +1,8 @@
 #include "photos/Hills.h"
 
-#include "photos/Film.h"
 #include "photos/Landscape.h"
 #include "photos/Noise.h"
+#include "photos/Skies.h"
 #include "photos/Terrain.h"
 #include "photos/Trees.h"
 
@@ -76,40 +76,13 @@ private:
     }
 };
 
-Sky evening()
-{
-    Sky sky;
-    sky.sun = normalized({0.80, 0.36, 0.05});
-    sky.zenith = {0.12, 0.26, 0.58};
-    sky.horizon = {0.68, 0.72, 0.76};
-    sky.sunLight = {2.9, 2.2, 1.35};
-    sky.glow = 0.20;
-    sky.disc = 0;
-    sky.cover = 0.22;
-    sky.cloudScale = 0.62;
-    sky.cloudLit = {2.3, 2.15, 1.95};
-    sky.cloudShade = {0.50, 0.55, 0.66};
-    sky.seed = 77;
-    return sky;
-}
-
 } // namespace
 
 QImage paintHills(const QSize& size)
 {
-    Landscape::View view;
-    view.size = size;
-    view.focal = 1.0;
-    view.horizon = 0.50;
-    view.eye = 78;
-    view.nearest = 14;
-    view.farthest = 15000;
+    Landscape::View view{size, 1.0, 0.50, 78, 14, 15000};
     view.haze = 1.0 / 8500;
     view.hazeHeight = 420;
     view.ambient = {0.22, 0.28, 0.38};
-    const Sky sky = evening();
-    const Country country;
-    Film film;
-    film.seed = 22;
-    return film.develop(Landscape(view, sky, country).paint());
+    return photograph(view, Skies::summerEvening(), Country(), 22);
 }

@@ -1,5 +1,6 @@
 #include "photos/Landscape.h"
 
+#include "photos/Film.h"
 #include "photos/Noise.h"
 #include "photos/Terrain.h"
 
@@ -196,4 +197,12 @@ double Landscape::sunShare(double x, double z) const
     };
     return mix(mix(at(c, r), at(c + 1, r), column - c),
                mix(at(c, r + 1), at(c + 1, r + 1), column - c), row - r);
+}
+
+QImage photograph(const Landscape::View& view, const Sky& sky, const Terrain& terrain,
+                  std::uint32_t grainSeed)
+{
+    Film film;
+    film.seed = grainSeed;
+    return film.develop(Landscape(view, sky, terrain).paint());
 }

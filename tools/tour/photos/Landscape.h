@@ -3,6 +3,8 @@
 #include "photos/Canvas.h"
 #include "photos/Sky.h"
 
+#include <cstdint>
+#include <QImage>
 #include <vector>
 
 class Terrain;
@@ -54,3 +56,7 @@ private:
     double m_horizon;
     std::vector<float> m_shadows;
 };
+
+/// A landscape on film; `grainSeed` lets no two photos share their grain.
+QImage photograph(const Landscape::View& view, const Sky& sky, const Terrain& terrain,
+                  std::uint32_t grainSeed);

@@ -2,28 +2,12 @@
 
 #include "photos/Film.h"
 #include "photos/Noise.h"
-#include "photos/Sky.h"
+#include "photos/Skies.h"
 
 namespace
 {
 
 constexpr int kRows = 9; ///< of trees, the last being the farthest
-
-Sky dawn()
-{
-    Sky sky;
-    sky.sun = normalized({0.16, 0.30, 1.0});
-    sky.zenith = {0.24, 0.36, 0.54};
-    sky.horizon = {0.86, 0.74, 0.58};
-    sky.sunLight = {2.6, 1.7, 0.85};
-    sky.glow = 0.5;
-    sky.disc = 5;
-    sky.cover = -0.12;
-    sky.cloudLit = {1.2, 1.0, 0.85};
-    sky.cloudShade = {0.62, 0.60, 0.62};
-    sky.seed = 131;
-    return sky;
-}
 
 /// How much of a pixel a fir covers. The place is measured in heights of that tree: from its tip
 /// downwards, and sideways from its trunk.
@@ -122,7 +106,7 @@ Rgb lightAt(const Sky& sky, double x, double y)
 
 QImage paintMistyForest(const QSize& size)
 {
-    const Sky sky = dawn();
+    const Sky sky = Skies::forestDawn();
     Canvas canvas(size);
     canvas.paint([&](int x, int y) {
         return lightAt(sky, double(x) / size.width(), double(y) / size.width());

@@ -2,7 +2,7 @@
 
 #include "photos/Film.h"
 #include "photos/Noise.h"
-#include "photos/Sky.h"
+#include "photos/Skies.h"
 
 namespace
 {
@@ -10,23 +10,6 @@ namespace
 constexpr double kEye = 4.5; ///< metres above the sea
 constexpr double kHorizon = 0.57;
 constexpr double kFocal = 1.15;
-
-Sky dusk()
-{
-    Sky sky;
-    sky.sun = normalized({-0.085, 0.050, 1.0});
-    sky.zenith = {0.05, 0.10, 0.30};
-    sky.horizon = {0.98, 0.40, 0.15};
-    sky.sunLight = {3.3, 1.45, 0.48};
-    sky.glow = 0.36;
-    sky.disc = 34;
-    sky.cover = 0.36;
-    sky.cloudScale = 0.9;
-    sky.cloudLit = {1.15, 0.46, 0.24};
-    sky.cloudShade = {0.17, 0.125, 0.19};
-    sky.seed = 91;
-    return sky;
-}
 
 /// How the sea slopes at a place: swell, waves and, near by, ripples.
 Vec3 waterNormal(double x, double z)
@@ -80,7 +63,7 @@ double islandOutline(double x)
 
 QImage paintSeaSunset(const QSize& size)
 {
-    const Sky sky = dusk();
+    const Sky sky = Skies::seaDusk();
     Canvas canvas(size);
     const double focal = kFocal * size.width();
     const double horizon = kHorizon * size.height();

@@ -102,13 +102,11 @@ bool App::copyFileToFolder(const QString& source, const QString& folderPath, con
     if (input.error() != QFileDevice::NoError) {
         return false;
     }
-    // Written beside the target and renamed at the end: a full disk leaves no half file.
+    // Written beside the target and renamed at the end: a full disk leaves no half file. A write
+    // that goes half way is no error to commit().
     QSaveFile output(target);
-    if (!output.open(QIODevice::WriteOnly)) {
-        return false;
-    }
-    output.write(content);
-    return output.commit();
+    return output.open(QIODevice::WriteOnly) && output.write(content) == content.size() &&
+           output.flush() && output.commit();
 }
 
 } // namespace QMWidgets

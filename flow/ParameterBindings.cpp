@@ -4,6 +4,7 @@
 #include "flow/ParameterReader.h"
 #include <QMWidgets/ColorWidget.h>
 
+#include <algorithm>
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDomDocument>
@@ -12,6 +13,14 @@
 
 namespace
 {
+
+/// Surrogates are none by themselves, but in pairs.
+bool isXmlCharacter(QChar character)
+{
+    const ushort code = character.unicode();
+    return code >= 0x20 ? !character.isSurrogate() && code < 0xfffe
+                        : code == '\t' || code == '\n' || code == '\r';
+}
 
 /// The XML reader drops a text of nothing but blanks, unless it stands in a section of its own.
 QDomText textNode(QDomDocument document, const QString& text)
@@ -23,9 +32,22 @@ QDomText textNode(QDomDocument document, const QString& text)
 
 } // namespace
 
-QString ParameterBindings::writable(QString text)
+QString ParameterBindings::writable(const QString& text)
 {
-    return text.remove(QChar(0xfffe)).remove(QChar(0xffff));
+    if (std::all_of(text.begin(), text.end(), isXmlCharacter)) {
+        return text;
+    }
+    QString told;
+    for (int i = 0; i < text.size(); ++i) {
+        const bool isPair =
+            text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        if (isPair) {
+            told += text.midRef(i++, 2);
+        } else if (isXmlCharacter(text.at(i))) {
+            told += text.at(i);
+        }
+    }
+    return told;
 }
 
 void ParameterBindings::bind(const char* tag, Apply apply, Tell tell)

@@ -40,8 +40,9 @@ public:
     /// The colour's name. A name that can't be read shows an invalid colour.
     void bind(const char* tag, QMWidgets::ColorWidget* swatch);
 
-    /// A text without what XML can't hold: one such character would make the whole unreadable.
-    static QString writable(QString text);
+    /// A text without what XML can't hold: control characters and halves of characters, of which
+    /// one may make the whole unreadable.
+    static QString writable(const QString& text);
 
     void read(const QDomNode& parameters) const;
     void write(QDomElement& parameters, QDomDocument document) const;

@@ -97,14 +97,6 @@ QMenu* FlowPanel::makeAddMenu(QWidget* parent)
     return menu;
 }
 
-void FlowPanel::rebuildFavoritesMenu()
-{
-    m_favoritesMenu->clear();
-    QAction* const clear =
-        m_favoritesMenu->addAction(QIcon(QStringLiteral(":/new.png")), tr("&Clear"));
-    connect(clear, &QAction::triggered, this, &FlowPanel::slotNewFavorite);
-}
-
 void FlowPanel::layOut(QPushButton* addButton, QPushButton* flowsButton, QPushButton* runButton)
 {
     auto* buttons = new QHBoxLayout;
@@ -196,14 +188,6 @@ void FlowPanel::addAndTell(const QString& operationName)
     }
 }
 
-void FlowPanel::slotNewFavorite()
-{
-    const int count = m_tabBar->count();
-    for (int i = 0; i < count; ++i) {
-        slotRemoveNode();
-    }
-}
-
 void FlowPanel::slotTabClicked()
 {
     if (BaseNode* const node = m_flow.value(m_tabBar->currentIndex())) {
@@ -234,6 +218,7 @@ void FlowPanel::slotRemoveNode()
 void FlowPanel::slotNodesCountChanged(int count)
 {
     m_removeButton->setEnabled(count != 0);
+    m_saveAction->setEnabled(count != 0);
 }
 
 void FlowPanel::slotRunBatch()

@@ -3,18 +3,21 @@
 #include <QFrame>
 #include <QImage>
 #include <QMap>
+#include <QPair>
 
 class BaseNode;
 class FavoritesDeleteDlg;
 class NodesOptionsPanel;
 class NodesTabBar;
-class QBoxLayout;
+class QAction;
+class QDomElement;
+class QDomNode;
 class QMenu;
 class QPushButton;
 class TabLabel;
 
 /// The strip at the bottom of the page that holds the flow: a tab for each node, the menu that adds
-/// one, the button that removes one, the menu of flows and the button that starts the batch.
+/// one, the button that removes one, the menu of saved flows and the button that starts the batch.
 ///
 /// It keeps the order of the nodes and tells each change of it; it runs nothing and owns no node.
 /// Key k of the flow is the node of tab k and the place in the chain.
@@ -29,6 +32,18 @@ public:
     /// Adds a tab and a node at the end and makes them current. The caller tells the new flow.
     /// Errors: an unknown operation adds nothing, and null comes back.
     BaseNode* addNode(const QString& operationName);
+
+    /// Fills the menu of flows with its commands and with the flows that the folder holds now.
+    void rebuildFavoritesMenu();
+    /// Saves the flow in the folder of flows. Errors: a file that can't be written stays as it was.
+    void writeFlow(const QString& fileName);
+    /// Puts the flow that the text tells in the place of the present one, and tells it. What can't
+    /// be understood is left out: a text that is no XML leaves the flow empty. Removing the present
+    /// nodes lets events through; if they bring another flow, or clear it, that one stays.
+    void loadFlow(const QString& xml);
+    /// The operations of a flow file by their place, each with its name and the node that holds its
+    /// parameters, which may be null or anything else.
+    QMap<int, QPair<QString, QDomNode>> readOperations(const QDomElement& root);
 
 signals:
     void showOptions(BaseNode* node);
@@ -46,24 +61,37 @@ public slots:
     void slotAddWaterMarkNode();
     /// Removes every node.
     void slotNewFavorite();
+    /// Asks for a name and saves the flow under it; a flow of that name is replaced if the user
+    /// agrees.
+    void slotSaveFlow();
+    /// Loads the flow that the sending action stands for. One that can't be read changes nothing.
+    void slotLoadFavorite();
+    /// Lets the user choose a saved flow, and removes its file.
+    void slotDeleteFavorite();
     void slotTabClicked();
     /// Removes the node of the current tab.
     void slotRemoveNode();
     void slotNodesCountChanged(int count);
     void slotRunBatch();
+    /// Shows the folder of flows in the file manager.
+    void slotGotoPresetsLocation();
     void slotNodePreviewChanged(const QImage& image);
 
 private:
     QMenu* makeAddMenu(QWidget* parent);
-    void rebuildFavoritesMenu();
     void layOut(QPushButton* addButton, QPushButton* flowsButton, QPushButton* runButton);
     void addAndTell(const QString& operationName);
+    void addFavorite(const QString& fileName);
+    /// Removes every node. False if something newer has cleared the flow meanwhile.
+    bool clearFlow();
 
     NodesOptionsPanel* m_optionsPanel;
     QMap<BaseNode*, TabLabel*> m_tabLabels;
     QMap<int, BaseNode*> m_flow;
     NodesTabBar* m_tabBar;
     QMenu* m_favoritesMenu = nullptr;
+    QAction* m_saveAction = nullptr;
     QPushButton* m_removeButton;
     FavoritesDeleteDlg* m_deleteDialog;
+    quint64 m_lastClearing = 0;
 };

@@ -6,7 +6,7 @@
 
 QString flowsFolder()
 {
-    const QString folder = QMWidgets::App::app()->appHomeFolder(true) + QLatin1String("Flows/");
+    const QString folder = QMWidgets::App::appHomeFolder(true) + QLatin1String("Flows/");
     QDir().mkpath(folder);
     return folder;
 }

@@ -1,79 +1,15 @@
 #include "flow/BaseNode.h"
 #include "flow/ComboSlider.h"
-#include "flow/FlowPanel.h"
-#include "flow/NodesOptionsPanel.h"
-#include "flow/NodesTabBar.h"
 #include "flow/Operations.h"
-#include "flow/TabLabel.h"
+#include "FlowTesting.h"
 #include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
-#include <QMenu>
-#include <QPushButton>
 #include <QSignalSpy>
 
 namespace
 {
-
-/// The flow panel with its options panel, wired as on the main page.
-class Flow
-{
-public:
-    Flow()
-        : panel(&options, nullptr),
-          bar(panel.findChild<NodesTabBar*>())
-    {
-        QObject::connect(&panel, &FlowPanel::showOptions, &options,
-                         &NodesOptionsPanel::slotShowOptions);
-        QObject::connect(&panel, &FlowPanel::flowChanged, &options,
-                         &NodesOptionsPanel::slotFlowChanged);
-        QObject::connect(&panel, &FlowPanel::nodeRemoved, &options,
-                         &NodesOptionsPanel::slotNodeRemoved);
-        panel.resize(735, 165);
-        panel.show();
-    }
-
-    void add(const QString& name)
-    {
-        for (QAction* action :
-             panel.findChild<QMenu*>(QStringLiteral("FlowPanelMenu"))->actions()) {
-            if (action->text() == name) {
-                action->trigger();
-            }
-        }
-    }
-
-    QPushButton* button(const char* name)
-    {
-        return panel.findChild<QPushButton*>(QLatin1String(name));
-    }
-
-    /// The operations in chain order; each tab has to stand for the node of its place.
-    QStringList names()
-    {
-        QStringList list;
-        for (int i = 0; i < bar->count(); ++i) {
-            BaseNode* const node = options.flow().value(i);
-            if (!node || node->name() != bar->tabText(i)) {
-                return {QStringLiteral("tab %1 has another node").arg(i)};
-            }
-            list += node->name();
-        }
-        return options.flow().size() == bar->count()
-                   ? list
-                   : QStringList(QStringLiteral("too many nodes"));
-    }
-
-    QPixmap thumbnail(int tab)
-    {
-        return static_cast<TabLabel*>(bar->tabButton(tab, QTabBar::LeftSide))->pixmap();
-    }
-
-    NodesOptionsPanel options{nullptr};
-    FlowPanel panel;
-    NodesTabBar* bar;
-};
 
 const QString kInvert = QStringLiteral("Invert");
 const QString kGray = QStringLiteral("Grayscale");
@@ -151,7 +87,7 @@ private slots:
             flow.add(kInvert);
         }
         QCOMPARE(flow.bar->count(), 30);
-        flow.panel.findChild<QMenu*>(QStringLiteral("FavoritesMenu"))->actions().first()->trigger();
+        flow.favorites()->actions().first()->trigger();
         QCOMPARE(flow.names(), QStringList());
     }
 

@@ -133,6 +133,43 @@ private slots:
         QVERIFY(page.isConsistent());
     }
 
+    void aFlowLoadedInTheRunOfAnotherStays_data()
+    {
+        QTest::addColumn<QString>("meanwhile");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("another one") << "load" << QStringList{"Blur", "Crop"};
+        QTest::newRow("none") << "clear" << QStringList();
+        QTest::newRow("an added operation") << "add" << QStringList{"Mirror"};
+        QTest::newRow("a removed operation") << "remove" << QStringList{"Mirror"};
+    }
+
+    void aFlowLoadedInTheRunOfAnotherStays()
+    {
+        QFETCH(QString, meanwhile);
+        Page page;
+        const QString flow = QStringLiteral("<F>%1</F>");
+        const QString operation = QStringLiteral("<Operation name='%1' index='%2'/>");
+        page.inTheNextRun([&] {
+            if (meanwhile == QLatin1String("load")) {
+                page.panel->loadFlow(flow.arg(operation.arg(QStringLiteral("Blur")).arg(0) +
+                                              operation.arg(QStringLiteral("Crop")).arg(1)));
+            } else if (meanwhile == QLatin1String("clear")) {
+                page.panel->slotNewFavorite();
+            } else if (meanwhile == QLatin1String("add")) {
+                page.panel->slotAddWaterMarkNode();
+            } else {
+                page.panel->slotRemoveNode();
+            }
+        });
+        page.panel->loadFlow(flow.arg(operation.arg(QStringLiteral("Mirror")).arg(0)));
+        QVERIFY(page.isConsistent());
+        QStringList names;
+        for (const BaseNode* node : page.options->flow()) {
+            names += node->name();
+        }
+        QTEST(names, "expected");
+    }
+
     void aStepOfTheSliderInItsOwnRunIsHeard()
     {
         ComboSlider control(QString(), nullptr);

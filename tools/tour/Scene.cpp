@@ -15,6 +15,8 @@ const QVector<Scene>& scenes()
         {QStringLiteral("step"), QStringLiteral("Step through the photos"), stepThroughPhotos},
         {QStringLiteral("order"), QStringLiteral("Order, switch off and remove operations"),
          orderOperations},
+        {QStringLiteral("favourites"), QStringLiteral("Save, load and delete a flow"),
+         keepFavourites},
         {QStringLiteral("menus"), QStringLiteral("All menus"), showMenus},
         {QStringLiteral("settings"), QStringLiteral("Choose format and names"), chooseSettings},
         {QStringLiteral("operations"), QStringLiteral("Each operation with its options"),

@@ -18,6 +18,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QUrl>
+#include <vector>
 
 namespace
 {
@@ -190,6 +191,28 @@ void Stage::withDialog(QPushButton* button, const QString& what, const DialogAct
         Attendant attendant(what, &QApplication::activeModalWidget, act, m_complaints);
         click(button);
     }
+}
+
+void Stage::withDialogs(const std::function<void()>& open, const QString& what,
+                        std::initializer_list<DialogAct> acts)
+{
+    QPointer<QWidget> last;
+    int done = 0;
+    std::vector<std::unique_ptr<Attendant>> attendants;
+    for (const DialogAct& act : acts) {
+        const int turn = int(attendants.size());
+        const auto find = [&last, &done, turn]() -> QWidget* {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            return turn == done && dialog != last ? dialog : nullptr;
+        };
+        const auto answer = [&last, &done, &act](QWidget* dialog) {
+            last = dialog;
+            ++done;
+            act(dialog);
+        };
+        attendants.push_back(std::make_unique<Attendant>(what, find, answer, m_complaints));
+    }
+    open();
 }
 
 void Stage::chooseEntry(QMenu* menu, const QString& text)

@@ -8,6 +8,7 @@ void addOperations(Stage& stage);
 void tuneOperation(Stage& stage);
 void stepThroughPhotos(Stage& stage);
 void orderOperations(Stage& stage);
+void keepFavourites(Stage& stage);
 void showMenus(Stage& stage);
 void chooseSettings(Stage& stage);
 void showEachOperation(Stage& stage);

@@ -2,11 +2,39 @@
 
 #include <QMWidgets/Label.h>
 
-/// The thumbnail on a node's tab: the picture as it stands after that node.
+#include <memory>
+
+class BubblePreview;
+class QPropertyAnimation;
+class QPushButton;
+
+/// The thumbnail on a node's tab: the picture as it stands after that node. A small button, there
+/// while the mouse is over the label, or a double click shows it larger in a bubble.
 class TabLabel : public QMWidgets::Label
 {
     Q_OBJECT
 
 public:
     explicit TabLabel(QWidget* parent);
+    ~TabLabel() override;
+
+public slots:
+    /// Lets the bubble fly out of the label and stand above it; with no picture nothing happens.
+    void slotShowPreview();
+
+protected:
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    /// Makes a flight of the bubble between two places on the screen.
+    std::unique_ptr<QPropertyAnimation> makeFlight(const QRect& from, const QRect& to) const;
+
+    QPushButton* m_previewButton;
+    BubblePreview* m_bubble;
+    // The bubble's animations. They are kept until the next opening, since a window that the
+    // desktop has put aside and brings back shows anew.
+    std::unique_ptr<QPropertyAnimation> m_flightOut;
+    std::unique_ptr<QPropertyAnimation> m_flightHome;
 };

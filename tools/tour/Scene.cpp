@@ -17,6 +17,8 @@ const QVector<Scene>& scenes()
          orderOperations},
         {QStringLiteral("favourites"), QStringLiteral("Save, load and delete a flow"),
          keepFavourites},
+        {QStringLiteral("bubbles"), QStringLiteral("Look closer at a step of the flow"),
+         showBubbles},
         {QStringLiteral("menus"), QStringLiteral("All menus"), showMenus},
         {QStringLiteral("settings"), QStringLiteral("Choose format and names"), chooseSettings},
         {QStringLiteral("operations"), QStringLiteral("Each operation with its options"),

@@ -9,6 +9,7 @@ void tuneOperation(Stage& stage);
 void stepThroughPhotos(Stage& stage);
 void orderOperations(Stage& stage);
 void keepFavourites(Stage& stage);
+void showBubbles(Stage& stage);
 void showMenus(Stage& stage);
 void chooseSettings(Stage& stage);
 void showEachOperation(Stage& stage);

@@ -149,6 +149,9 @@ void tst_GraphX::otherTextsGiveNoImage_data()
     QTest::newRow("not Base64") << QStringLiteral("data:image/png;base64,\u2603!?\u00e4~");
     QTest::newRow("other bytes") << QStringLiteral("data:image/png;base64,AAAABBBBCCCC");
     QTest::newRow("cut off") << url.left(60);
+    QImage huge(16400, 16400, QImage::Format_Mono);
+    huge.fill(0);
+    QTest::newRow("too large") << GraphX::imageToDataUrl(huge, QStringLiteral("PNG"), -1);
     QTest::newRow("null image") << GraphX::imageToDataUrl(QImage(), QStringLiteral("PNG"), -1);
 }
 

@@ -3,6 +3,7 @@
 #include "ImageLike.h"
 
 #include <QBuffer>
+#include <QImageReader>
 #include <QPainter>
 
 namespace MGraphX
@@ -11,6 +12,15 @@ namespace
 {
 
 const QLatin1String kBase64Mark(";base64,");
+
+/// A few bytes of a file can claim any size, and the toolkit reserves memory for all of it, up to
+/// eight bytes a pixel, before it finds out that there is no more. Some formats tell no size; those
+/// can't claim so much.
+bool claimsTooMuch(const QSize& size)
+{
+    constexpr qint64 kMostPixels = (qint64(2) << 30) / 8;
+    return size.isValid() && qint64(size.width()) * size.height() > kMostPixels;
+}
 
 QPoint centred(const QSize& inner, const QSize& outer)
 {
@@ -63,9 +73,8 @@ QImage GraphX::imageFromDataUrl(const QString& text)
     QByteArray bytes = QByteArray::fromBase64(text.mid(markAt + kBase64Mark.size()).toLatin1());
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    QImage image;
-    image.load(&buffer, format.constData());
-    return image;
+    QImageReader reader(&buffer, format);
+    return claimsTooMuch(reader.size()) ? QImage() : reader.read();
 }
 
 QString GraphX::imageToDataUrl(const QImage& image, const QString& format, int quality)

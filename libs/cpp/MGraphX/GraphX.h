@@ -75,7 +75,8 @@ public:
     /// Shape: `size`, the format of the source; an image with a palette comes out as Format_ARGB32.
     static QImage fitInto(const QImage& image, const QSize& size, const QColor& background);
 
-    /// Reads a text as `imageToDataUrl` makes it. Errors: anything else gives a null image.
+    /// Reads a text as `imageToDataUrl` makes it. Errors: anything else gives a null image, and so
+    /// does an image of more than 2^28 pixels.
     static QImage imageFromDataUrl(const QString& text);
 
     /// The image as "data:image/", the format in lower case, ";base64," and the file's bytes in

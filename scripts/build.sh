@@ -6,11 +6,11 @@ cd "$(dirname "$0")/.."
 
 preset=$1
 if [ "${TESSARIN_NO_INSTALL:-0}" != 1 ]; then
-    if [ "$preset" = bench ]; then
-        scripts/install-dependencies.sh bench
-    else
-        scripts/install-dependencies.sh
-    fi
+    case "$preset" in
+    bench) scripts/install-dependencies.sh bench ;;
+    fuzz | pixels-*) scripts/install-dependencies.sh clang ;;
+    *) scripts/install-dependencies.sh ;;
+    esac
 fi
 if command -v brew >/dev/null 2>&1 && [ -d "$(brew --prefix qt@5 2>/dev/null)" ]; then
     CMAKE_PREFIX_PATH="$(brew --prefix qt@5)${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"

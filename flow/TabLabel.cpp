@@ -3,7 +3,6 @@
 #include "preview/BubblePreview.h"
 #include <QMWidgets/App.h>
 
-#include <QPropertyAnimation>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -50,6 +49,8 @@ TabLabel::TabLabel(QWidget* parent)
 
 TabLabel::~TabLabel()
 {
+    delete m_flightOut;
+    delete m_flightHome;
     delete m_bubble;
 }
 
@@ -67,16 +68,18 @@ void TabLabel::slotShowPreview()
     const QPoint place((width() - size.width()) / 2, -size.height());
     const QRect home(mapToGlobal(QPoint(0, 0)), this->size());
     const QRect out(mapToGlobal(place), size);
+    delete m_flightOut;
+    delete m_flightHome;
     m_flightOut = makeFlight(home, out);
     m_flightHome = makeFlight(out, home);
-    m_bubble->setShowAnimation(m_flightOut.get());
-    m_bubble->setHideAnimation(m_flightHome.get());
+    m_bubble->setShowAnimation(m_flightOut);
+    m_bubble->setHideAnimation(m_flightHome);
     m_bubble->show();
 }
 
-std::unique_ptr<QPropertyAnimation> TabLabel::makeFlight(const QRect& from, const QRect& to) const
+QPropertyAnimation* TabLabel::makeFlight(const QRect& from, const QRect& to) const
 {
-    auto flight = std::make_unique<QPropertyAnimation>(m_bubble, "geometry");
+    auto* flight = new QPropertyAnimation(m_bubble, "geometry");
     flight->setDuration(kFlightMilliseconds);
     flight->setStartValue(from);
     flight->setEndValue(to);

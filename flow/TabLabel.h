@@ -2,10 +2,10 @@
 
 #include <QMWidgets/Label.h>
 
-#include <memory>
+#include <QPointer>
+#include <QPropertyAnimation>
 
 class BubblePreview;
-class QPropertyAnimation;
 class QPushButton;
 
 /// The thumbnail on a node's tab: the picture as it stands after that node. A small button, there
@@ -29,12 +29,11 @@ protected:
 
 private:
     /// Makes a flight of the bubble between two places on the screen.
-    std::unique_ptr<QPropertyAnimation> makeFlight(const QRect& from, const QRect& to) const;
+    QPropertyAnimation* makeFlight(const QRect& from, const QRect& to) const;
 
     QPushButton* m_previewButton;
     BubblePreview* m_bubble;
-    // The bubble's animations. They are kept until the next opening, since a window that the
-    // desktop has put aside and brings back shows anew.
-    std::unique_ptr<QPropertyAnimation> m_flightOut;
-    std::unique_ptr<QPropertyAnimation> m_flightHome;
+    // The bubble's animations, gone when they have stopped.
+    QPointer<QPropertyAnimation> m_flightOut;
+    QPointer<QPropertyAnimation> m_flightHome;
 };

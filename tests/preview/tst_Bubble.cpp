@@ -124,6 +124,8 @@ private slots:
             QCOMPARE(flight->duration(), 500);
             QCOMPARE(flight->easingCurve(), QEasingCurve(QEasingCurve::InOutExpo));
         }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!tab.flightOut() && !tab.flightHome());
     }
 
     void aPressAnywhereCloses_data()

@@ -2,8 +2,8 @@
 
 #include "intake/BaseNameOf.h"
 #include "intake/CommonData.h"
-#include "intake/StepButtons.h"
 #include <QMWidgets/FileDialog.h>
+#include <QMWidgets/StepButtons.h>
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -18,8 +18,8 @@
 CreatorDropArea::CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent)
     : QMWidgets::Label(parent),
       m_optionsPanel(panel),
-      m_nextButton(makeNextButton(this)),
-      m_previousButton(makePreviousButton(this)),
+      m_nextButton(QMWidgets::makeNextButton(this)),
+      m_previousButton(QMWidgets::makePreviousButton(this)),
       m_counterLabel(new QLabel(this)),
       m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")),
                                    tr("Click to open the photos"), this))

@@ -1,9 +1,9 @@
 #include "preview/ImagePreview.h"
 
 #include "intake/CommonData.h"
-#include "intake/StepButtons.h"
 #include "preview/PositionText.h"
 #include <QMWidgets/App.h>
+#include <QMWidgets/StepButtons.h>
 
 #include <QHBoxLayout>
 #include <QImage>
@@ -13,8 +13,8 @@
 
 ImagePreview::ImagePreview(QWidget* parent)
     : QMWidgets::Label(parent),
-      m_nextButton(makeNextButton(this)),
-      m_previousButton(makePreviousButton(this)),
+      m_nextButton(QMWidgets::makeNextButton(this)),
+      m_previousButton(QMWidgets::makePreviousButton(this)),
       m_infoLabel(new QLabel(QStringLiteral("<H1>INFO</H1>"), this))
 {
     setFixedSize(360, 360);

@@ -1,7 +1,10 @@
-#include "intake/StepButtons.h"
+#include "StepButtons.h"
 
 #include <QCoreApplication>
 #include <QPushButton>
+
+namespace QMWidgets
+{
 
 namespace
 {
@@ -27,3 +30,5 @@ QPushButton* makePreviousButton(QWidget* parent)
     return makeStepButton(QStringLiteral("PreviousImageButton"),
                           QT_TRANSLATE_NOOP("StepButtons", "Previous photo"), parent);
 }
+
+} // namespace QMWidgets

@@ -13,6 +13,7 @@ const QVector<Scene>& scenes()
         {QStringLiteral("add"), QStringLiteral("Add operations to the flow"), addOperations},
         {QStringLiteral("tune"), QStringLiteral("Tune an operation"), tuneOperation},
         {QStringLiteral("step"), QStringLiteral("Step through the photos"), stepThroughPhotos},
+        {QStringLiteral("view"), QStringLiteral("View a result large"), viewLarge},
         {QStringLiteral("order"), QStringLiteral("Order, switch off and remove operations"),
          orderOperations},
         {QStringLiteral("favourites"), QStringLiteral("Save, load and delete a flow"),

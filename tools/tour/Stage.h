@@ -19,6 +19,7 @@ class NodesTabBar;
 class QComboBox;
 class QMenu;
 class QPushButton;
+class QSlider;
 
 /// The program, put together as its own main does it, and the hands that work it.
 ///
@@ -96,6 +97,8 @@ public:
     /// Clicks the check of the options that are shown.
     void switchOperation();
     void removeOperation();
+    /// Drags a slider's handle near a value; `onTheWay` is called while it is held there.
+    void dragSlider(QSlider* slider, int value, const std::function<void()>& onTheWay);
     /// Drags the slider with that caption, and goes the last steps by key.
     void setSlider(const QString& caption, int value);
     /// What the flow made of the photo last.

@@ -31,6 +31,12 @@ QPoint handlePlace(const QSlider* slider, int value)
         .center();
 }
 
+/// How far from the value meant a drag may end.
+int nearness(const QSlider* slider)
+{
+    return (slider->maximum() - slider->minimum()) / 12 + 1;
+}
+
 QPoint checkPlace(const QGroupBox* box)
 {
     QStyleOptionGroupBox option;
@@ -149,19 +155,24 @@ void Stage::removeOperation()
     check(tabBar()->count() == before - 1, QStringLiteral("a click removes an operation"));
 }
 
+void Stage::dragSlider(QSlider* slider, int value, const std::function<void()>& onTheWay)
+{
+    const QPoint end = handlePlace(slider, value);
+    m_pointer.pull(slider, handlePlace(slider, slider->value()), end);
+    check(qAbs(slider->value() - value) <= nearness(slider),
+          slider->accessibleName() + QStringLiteral(" follows the mouse"));
+    onTheWay();
+    m_pointer.release(slider, end);
+}
+
 void Stage::setSlider(const QString& caption, int value)
 {
     QSlider* const slider = shownSlider(page(), caption);
     if (!check(slider, QStringLiteral("there is a slider ") + caption)) {
         return;
     }
-    const QPoint start = handlePlace(slider, slider->value());
-    const QPoint end = handlePlace(slider, value);
-    m_pointer.pull(slider, start, end);
-    m_pointer.release(slider, end);
-    const int near = (slider->maximum() - slider->minimum()) / 12 + 1;
-    check(qAbs(slider->value() - value) <= near, caption + QStringLiteral(" follows the mouse"));
-
+    dragSlider(slider, value, [] {});
+    const int near = nearness(slider);
     const auto forth = slider->invertedControls() ? Qt::Key_Left : Qt::Key_Right;
     const auto back = slider->invertedControls() ? Qt::Key_Right : Qt::Key_Left;
     for (int i = 0; i < near && slider->value() != value; ++i) {

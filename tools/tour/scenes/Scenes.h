@@ -7,6 +7,7 @@ void openWithoutPhotos(Stage& stage);
 void addOperations(Stage& stage);
 void tuneOperation(Stage& stage);
 void stepThroughPhotos(Stage& stage);
+void viewLarge(Stage& stage);
 void orderOperations(Stage& stage);
 void keepFavourites(Stage& stage);
 void showBubbles(Stage& stage);

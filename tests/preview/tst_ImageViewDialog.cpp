@@ -1,0 +1,244 @@
+#include "flow/NodesOptionsPanel.h"
+#include "intake/CommonData.h"
+#include "preview/ImageViewDialog.h"
+#include "preview/Representor.h"
+#include "support/ModalDialog.h"
+#include "support/Photos.h"
+#include "support/TestMain.h"
+#include "support/UrlCatcher.h"
+#include "support/WindowEvents.h"
+
+#include <QLabel>
+#include <QPropertyAnimation>
+#include <QScreen>
+
+namespace
+{
+
+const QSize kPhoto(800, 500);
+
+/// The result panel with the options panel behind it, wired as the main page does it.
+struct Panels {
+    Panels()
+    {
+        QObject::connect(&options, &NodesOptionsPanel::imageChanged, &representor,
+                         &Representor::slotSetImage);
+        QObject::connect(&representor, &Representor::realSizeRequired, &options,
+                         &NodesOptionsPanel::slotParametersChanged);
+        QObject::connect(&options, &NodesOptionsPanel::imageChanged, &options,
+                         [this](const QImage& image) { sizes += image.size(); });
+        CommonData::instance()->setCount(3);
+        CommonData::instance()->setCurrentIndex(1);
+        options.setImage(noise(kPhoto, 1));
+        sizes.clear();
+        representor.show();
+    }
+
+    NodesOptionsPanel options{nullptr};
+    Representor representor{&options, nullptr};
+    QList<QSize> sizes; ///< of the results
+};
+
+QPushButton* previewButton(Panels& panels)
+{
+    return panels.representor.findChild<QPushButton*>(QStringLiteral("PreviewButton"));
+}
+
+/// The size of the picture that a large view holds, whatever its zoom.
+QSize pictureOf(QDialog* dialog)
+{
+    dialog->findChild<QPushButton*>(QStringLiteral("ActualPixelsButton"))->click();
+    return dialog->findChild<QLabel*>(QStringLiteral("PreviewLabel"))
+        ->pixmap(Qt::ReturnByValue)
+        .size();
+}
+
+QLabel* infoOf(const QDialog& dialog)
+{
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        if (label->objectName().isEmpty()) {
+            return label;
+        }
+    }
+    return nullptr;
+}
+
+/// Counts the animations that go before the window that they move.
+class EndedAnimations : public QObject
+{
+public:
+    EndedAnimations() { QCoreApplication::instance()->installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        const auto* const animation = qobject_cast<QPropertyAnimation*>(object);
+        if (animation && animation->targetObject() && event->type() == QEvent::DeferredDelete) {
+            ++count;
+        }
+        return false;
+    }
+    int count = 0;
+};
+
+} // namespace
+
+class TestImageViewDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void showsTheResultAtRealSizeUntilItCloses_data()
+    {
+        using Close = std::function<void(QDialog*)>;
+        QTest::addColumn<Close>("close");
+        QTest::newRow("Escape") << Close(
+            [](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
+        QTest::newRow("window button") << Close([](QDialog* dialog) { dialog->close(); });
+        QTest::newRow("handed over") << Close([](QDialog* dialog) {
+            const UrlCatcher desktop;
+            dialog->findChild<QPushButton*>(QStringLiteral("SysPreviewButton"))->click();
+        });
+        QTest::newRow("the program quits") << Close([](QDialog*) { QCoreApplication::exit(); });
+    }
+
+    void showsTheResultAtRealSizeUntilItCloses()
+    {
+        QFETCH(std::function<void(QDialog*)>, close);
+        Panels panels;
+        const auto reduced = [] {
+            return CommonData::instance()->previewMode();
+        };
+        bool wasReduced = true;
+        QSize picture;
+        QSize minimum;
+        const auto open = [&] {
+            // Only a running program can quit.
+            QTimer::singleShot(0, &panels.representor, [&] {
+                previewButton(panels)->click();
+                QCoreApplication::exit();
+            });
+            QCoreApplication::exec();
+        };
+        withModalDialog(open, [&](QDialog* dialog) {
+            wasReduced = reduced();
+            picture = pictureOf(dialog);
+            minimum = dialog->minimumSize();
+            close(dialog);
+        });
+        QVERIFY(!wasReduced);
+        QCOMPARE(picture, kPhoto);
+        QCOMPARE(minimum, QSize(5, 5));
+        QVERIFY(reduced());
+        QCOMPARE(panels.sizes, QList<QSize>({kPhoto}));
+        panels.options.slotParametersChanged();
+        QCOMPARE(panels.sizes.last(), QSize(360, 225));
+    }
+
+    void growsToItsPlaceAndForgetsTheAnimation()
+    {
+        Panels panels;
+        const EndedAnimations ended;
+        const QSize desktop = QGuiApplication::primaryScreen()->virtualSize();
+        const QSize size(int(0.7f * float(desktop.width())), int(0.7f * float(desktop.height())));
+        const QRect place(
+            QPoint((desktop.width() - size.width()) / 2, (desktop.height() - size.height()) / 2),
+            size);
+        for (int opening = 1; opening <= 2; ++opening) {
+            QRect last;
+            withModalDialog([&] { previewButton(panels)->click(); },
+                            [&](QDialog* dialog) {
+                                static_cast<void>(
+                                    QTest::qWaitFor([&] { return ended.count == opening; }));
+                                last = dialog->geometry();
+                            });
+            QCOMPARE(ended.count, opening);
+            QCOMPARE(last, place);
+        }
+    }
+
+    void opensOnceForPressesWhileTheFlowRuns()
+    {
+        Panels panels;
+        QVERIFY(QTest::qWaitForWindowExposed(&panels.representor));
+        // They lie in the window system's queue, and the run lets them through.
+        connect(&panels.representor, &Representor::realSizeRequired, &panels.options,
+                [&, once = true]() mutable {
+                    if (std::exchange(once, false)) {
+                        postClick(previewButton(panels));
+                        postClick(previewButton(panels));
+                        panels.options.slotParametersChanged();
+                    }
+                });
+        int openings = 0;
+        QTimer closer;
+        connect(&closer, &QTimer::timeout, &closer, [&] {
+            if (QWidget* const dialog = QApplication::activeModalWidget()) {
+                ++openings;
+                dialog->close();
+            }
+        });
+        closer.start(0);
+        for (int expected = 1; expected <= 2; ++expected) {
+            previewButton(panels)->click();
+            QCoreApplication::processEvents();
+            QCOMPARE(openings, expected);
+            QVERIFY(CommonData::instance()->previewMode());
+        }
+    }
+
+    void aStepDuringALoadShowsTheNewerPhoto()
+    {
+        ImageViewDialog dialog(nullptr);
+        dialog.resize(500, 500);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        CommonData::instance()->setCount(3);
+        CommonData::instance()->setCurrentIndex(0);
+        auto* const arrow = dialog.findChild<QPushButton*>(QStringLiteral("NextImageButton"));
+        auto* const loading = dialog.findChild<QLabel*>(QStringLiteral("ImageLoadingLabel"));
+        int steps = 0;
+        connect(&dialog, &ImageViewDialog::next, &dialog, [&] {
+            CommonData::instance()->setCurrentIndex(++steps);
+            if (steps == 1) {
+                postClick(arrow); // comes while the first step's photo loads
+            }
+            dialog.slotLoad(noise(QSize(10 + steps, 10), 1));
+        });
+        arrow->click();
+        QCOMPARE(steps, 2);
+        QVERIFY(!loading->isVisible());
+        QCOMPARE(infoOf(dialog)->text(), QStringLiteral("<H1>3 of 3</H1>"));
+        QCOMPARE(pictureOf(&dialog), QSize(12, 10));
+    }
+
+    void letsNoEventThroughWhileClosed()
+    {
+        ImageViewDialog dialog(nullptr);
+        bool came = false;
+        QTimer::singleShot(0, &dialog, [&] { came = true; });
+        dialog.slotLoad(noise(QSize(10, 10), 1));
+        QVERIFY(!came);
+        dialog.show();
+        dialog.slotLoad(noise(QSize(10, 10), 1));
+        QVERIFY(came);
+    }
+
+    void offersStepsForMoreThanOnePhoto()
+    {
+        ImageViewDialog dialog(nullptr);
+        dialog.show();
+        auto* const arrow = dialog.findChild<QPushButton*>(QStringLiteral("NextImageButton"));
+        for (const int count : {0, 1, 2}) {
+            CommonData::instance()->setCount(count);
+            dialog.slotLoad(QImage());
+            QCOMPARE(infoOf(dialog)->isVisible(), count > 1);
+            QEvent enter(QEvent::Enter);
+            QCoreApplication::sendEvent(arrow->parentWidget(), &enter);
+            QCOMPARE(arrow->isVisible(), count > 1);
+        }
+    }
+};
+
+Q_DECLARE_METATYPE(std::function<void(QDialog*)>)
+
+TESSARIN_TEST(TestImageViewDialog);
+#include "tst_ImageViewDialog.moc"

@@ -26,6 +26,8 @@ void prepareProcess()
     MGraphX::keepHeap();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // A slider scales a whole photo at each step: moves that wait meanwhile become one.
+    QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }

@@ -159,13 +159,12 @@ private slots:
     {
         Panels panels;
         QVERIFY(QTest::qWaitForWindowExposed(&panels.representor));
-        // They lie in the window system's queue, and the run lets them through.
         connect(&panels.representor, &Representor::realSizeRequired, &panels.options,
                 [&, once = true]() mutable {
                     if (std::exchange(once, false)) {
                         postClick(previewButton(panels));
                         postClick(previewButton(panels));
-                        panels.options.slotParametersChanged();
+                        panels.options.slotParametersChanged(); // lets them through
                     }
                 });
         int openings = 0;
@@ -199,9 +198,11 @@ private slots:
         connect(&dialog, &ImageViewDialog::next, &dialog, [&] {
             CommonData::instance()->setCurrentIndex(++steps);
             if (steps == 1) {
-                postClick(arrow); // comes while the first step's photo loads
+                // It comes while this step's photo loads.
+                QTimer::singleShot(0, arrow, &QPushButton::click);
             }
-            dialog.slotLoad(noise(QSize(10 + steps, 10), 1));
+            const int photo = steps;
+            dialog.slotLoad(noise(QSize(10 + photo, 10), 1));
         });
         arrow->click();
         QCOMPARE(steps, 2);

@@ -12,6 +12,9 @@
 #include <QPropertyAnimation>
 #include <QScreen>
 
+using Close = std::function<void(QDialog*)>;
+Q_DECLARE_METATYPE(Close)
+
 namespace
 {
 
@@ -88,7 +91,6 @@ class TestImageViewDialog : public QObject
 private slots:
     void showsTheResultAtRealSizeUntilItCloses_data()
     {
-        using Close = std::function<void(QDialog*)>;
         QTest::addColumn<Close>("close");
         QTest::newRow("Escape") << Close(
             [](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
@@ -102,7 +104,7 @@ private slots:
 
     void showsTheResultAtRealSizeUntilItCloses()
     {
-        QFETCH(std::function<void(QDialog*)>, close);
+        QFETCH(Close, close);
         Panels panels;
         const auto reduced = [] {
             return CommonData::instance()->previewMode();
@@ -238,8 +240,6 @@ private slots:
         }
     }
 };
-
-Q_DECLARE_METATYPE(std::function<void(QDialog*)>)
 
 TESSARIN_TEST(TestImageViewDialog);
 #include "tst_ImageViewDialog.moc"

@@ -6,6 +6,7 @@
 #include "flow/SliderParameter.h"
 #include <QMWidgets/ColorWidget.h>
 #include <QMWidgets/FileDialog.h>
+#include <QMWidgets/LiteralText.h>
 #include <QMWidgets/MMessageBox.h>
 
 #include <QCheckBox>
@@ -19,7 +20,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QTextDocument>
 #include <QVBoxLayout>
 
 using QMWidgets::ColorWidget;
@@ -172,7 +172,7 @@ void WMRNode::layOut()
     auto* separator = new QFrame;
     separator->setObjectName(QStringLiteral("NodeSeparator"));
     separator->setFixedWidth(15);
-    separator->setFrameStyle(QFrame::VLine | QFrame::Plain);
+    separator->setFrameStyle(int(QFrame::VLine) | int(QFrame::Plain));
     separator->setLineWidth(2);
 
     auto* settings = new QVBoxLayout;
@@ -356,11 +356,8 @@ void WMRNode::slotWMRBrowse()
     const QString fileName = QFileInfo(path).fileName();
     if (!m_logo.load(path)) {
         const QString text = tr("Can not open the image file:") + fileName;
-        // The box shows markup, and a file's name may look like some.
-        QMWidgets::MMessageBox::critical(
-            this, tr("Warning"),
-            Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text,
-            QMessageBox::Ok, 0);
+        QMWidgets::MMessageBox::critical(this, tr("Warning"), QMWidgets::literalText(text),
+                                         QMessageBox::Ok, 0);
         return;
     }
     m_logo = WMRXml::imageAsTold(m_logo);

@@ -85,8 +85,8 @@ private slots:
         const QMenu* menu = menuOf(bar, "AppButton");
         QCOMPARE(textsOf(menu),
                  QStringList({QStringLiteral("More Apps"), QStringLiteral("Contacts Us"),
-                              QStringLiteral("Support Page"), QStringLiteral("-"),
-                              QStringLiteral("Quit")}));
+                              QStringLiteral("Support Page"), QStringLiteral("Check Updates"),
+                              QStringLiteral("-"), QStringLiteral("Quit")}));
         menu->actions().at(0)->trigger();
         QCOMPARE(catcher.take().value(0).path(), QStringLiteral("/apps"));
         menu->actions().at(1)->trigger();

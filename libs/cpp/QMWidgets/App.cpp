@@ -2,19 +2,29 @@
 
 #include "BlenderWidget.h"
 #include "BuildDate.h"
+#include "UpdateCheck.h"
+#include "UpdateSettings.h"
 #include "WindowsVersionName.h"
 #include <QMWidgets/MakerSite.h>
 
 #include <QEvent>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
 #include <QSysInfo>
+#include <QTimer>
 
 namespace QMWidgets
 {
 
 namespace
 {
+
+constexpr int kUpdateCheckDelay = 2000; // milliseconds after the start
+
+/// Events in hand on the stack of this thread. Those of worker threads go through the application
+/// object, too.
+thread_local int eventDepth = 0;
 
 void dropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 
@@ -40,6 +50,10 @@ App::App(int& argc, char** argv, const QString& organization, const QString& app
     m_resourcesPath = QStringLiteral("Resources/");
     m_directDistribution = true;
     qInstallMessageHandler(dropMessage);
+    m_updateCheck = new UpdateCheck(this);
+    if (UpdateSettings::isCheckedAtStart()) {
+        QTimer::singleShot(kUpdateCheckDelay, this, &App::nop_cuos);
+    }
 }
 
 App* App::app()
@@ -60,6 +74,11 @@ void App::setSettingsValue(const QString& key, const QVariant& value)
 QString App::language()
 {
     return m_language;
+}
+
+void App::setUpdateService(const UpdateService& service)
+{
+    m_updateCheck->setService(service);
 }
 
 QDate App::buildDate() const
@@ -109,6 +128,7 @@ double App::devicePixelRatio()
 
 bool App::notify(QObject* receiver, QEvent* event)
 {
+    const QScopedValueRollback<int> depth(eventDepth, eventDepth + 1);
     switch (event->type()) {
     case QEvent::ApplicationActivate:
         emit applicationActivated();
@@ -123,6 +143,15 @@ bool App::notify(QObject* receiver, QEvent* event)
         break;
     }
     return QApplication::notify(receiver, event);
+}
+
+bool App::isUserFree()
+{
+    // The one event is the timer's own. A second one under it has opened a dialog, a menu or a file
+    // dialog of the desktop, or lets events through while it works; it could only go on once the
+    // new dialog is closed.
+    return eventDepth <= 1 && !activeModalWidget() && !activePopupWidget() &&
+           mouseButtons() == Qt::NoButton;
 }
 
 void App::slotFocusChanged(QWidget*, QWidget*)
@@ -143,6 +172,16 @@ void App::slotSetBlendMainWidget(bool on)
     m_blender->setFixedSize(m_mainWidget->size());
     m_blender->show();
     m_blender->raise();
+}
+
+void App::slotCheckUpdate()
+{
+    m_updateCheck->runForUser();
+}
+
+void App::nop_cuos()
+{
+    m_updateCheck->runQuietly();
 }
 
 } // namespace QMWidgets

@@ -13,6 +13,8 @@ namespace QMWidgets
 {
 
 class BlenderWidget;
+class UpdateCheck;
+struct UpdateService;
 
 /// The application object: settings, folders, web addresses and the veil over the main window.
 /// It knows nothing of photos. The constructor drops all messages of the toolkit from then on; a
@@ -62,6 +64,11 @@ public:
     bool firstRun() const { return m_firstRun; }
     /// True for a build that a store distributes; this program is given out directly.
     bool isStoreBuild() const { return !m_directDistribution; }
+    /// Whether the user is left in peace by a dialog that opens by itself now: no other dialog or
+    /// menu is open, no mouse button is down, and the program does nothing but wait for him.
+    static bool isUserFree();
+    /// Whom to ask for updates. Until this is called nobody is asked, and no request goes out.
+    void setUpdateService(const UpdateService& service);
     /// The day this library was compiled.
     QDate buildDate() const;
     /// Folder of the files that are shipped beside the program, relative to the working directory,
@@ -116,6 +123,11 @@ public slots:
     void slotGoToPromotedApp();
     /// Shows or hides the veil over the main window; without a main window nothing happens.
     void slotSetBlendMainWidget(bool on);
+    /// Asks whether there is a newer release and tells the user, also if that can't be found out.
+    virtual void slotCheckUpdate();
+    /// The check at the start: asks now and then, and tells the user only of a newer release. Waits
+    /// until he is free.
+    void nop_cuos();
 
 private:
     QSettings* m_settings = nullptr;
@@ -131,6 +143,7 @@ private:
     QString m_usesText;
     bool m_firstRun = false;
     bool m_directDistribution = false;
+    UpdateCheck* m_updateCheck = nullptr;
 };
 
 } // namespace QMWidgets

@@ -12,6 +12,7 @@ struct Entry {
     const char* text;
     const char* icon;
     void (App::*slot)();
+    bool isInStoreBuilds = true;
 };
 
 const Entry kRateEntry = {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Rate this App"), ":/star.png",
@@ -25,6 +26,8 @@ const Entry kEntries[] = {
      &App::slotContactUs},
     {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Support Page"), ":/webpage.png",
      &App::slotSupportPage},
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Check Updates"), ":/star.png", &App::slotCheckUpdate,
+     false},
 };
 
 void addEntry(QMenu* menu, const Entry& entry, App* app)
@@ -39,12 +42,14 @@ AppMenu::AppMenu(QWidget* parent)
     : QMenu(parent)
 {
     App* app = App::app();
-    // Only a store has a page to rate the application on.
+    // Only a store has a page to rate the application on, and it brings the updates itself.
     if (app->isStoreBuild()) {
         addEntry(this, kRateEntry, app);
     }
     for (const Entry& entry : kEntries) {
-        addEntry(this, entry, app);
+        if (entry.isInStoreBuilds || !app->isStoreBuild()) {
+            addEntry(this, entry, app);
+        }
     }
     addSeparator();
     QAction* quit = addAction(tr("Quit"));

@@ -22,6 +22,7 @@ const QVector<Scene>& scenes()
          showBubbles},
         {QStringLiteral("menus"), QStringLiteral("All menus"), showMenus},
         {QStringLiteral("settings"), QStringLiteral("Choose format and names"), chooseSettings},
+        {QStringLiteral("updates"), QStringLiteral("Hear of a newer release"), checkUpdates},
         {QStringLiteral("operations"), QStringLiteral("Each operation with its options"),
          showEachOperation},
         {QStringLiteral("save"), QStringLiteral("Save the results"), saveResults},

@@ -13,6 +13,7 @@ void keepFavourites(Stage& stage);
 void showBubbles(Stage& stage);
 void showMenus(Stage& stage);
 void chooseSettings(Stage& stage);
+void checkUpdates(Stage& stage);
 void showEachOperation(Stage& stage);
 void saveResults(Stage& stage);
 void saveRenamed(Stage& stage);

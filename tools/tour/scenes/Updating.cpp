@@ -1,0 +1,88 @@
+#include "scenes/Scenes.h"
+#include "scenes/SettingsSteps.h"
+#include "Stage.h"
+#include "support/HttpServer.h"
+
+#include <QCheckBox>
+#include <QMenu>
+#include <QMWidgets/UpdateService.h>
+#include <QPushButton>
+
+using QMWidgets::App;
+
+namespace
+{
+
+const QString kCheckedAtStart = QStringLiteral("checkupdates");
+
+bool isCheckedAtStart()
+{
+    return App::app()->settingsValue(kCheckedAtStart, true).toBool();
+}
+
+/// Chooses the menu's entry; `act` has to end the dialog that tells the outcome.
+void withCheck(Stage& stage, const QString& outcome, const Stage::DialogAct& act)
+{
+    const auto choose = [&stage] {
+        stage.withMenu(stage.find<QPushButton>(QStringLiteral("AppButton")), [&](QMenu* menu) {
+            stage.chooseEntry(menu, QStringLiteral("Check Updates"));
+        });
+    };
+    stage.withDialogs(choose, outcome, {act});
+}
+
+/// What the check at the start shows, over the window that is open then.
+void showNewsAtStart(Stage& stage)
+{
+    App::app()->setSettingsValue(QStringLiteral("LastUpdateCheck"), QStringLiteral("2001-01-01"));
+    stage.withDialogs(
+        [] { App::app()->nop_cuos(); }, QStringLiteral("the news at the start"),
+        {[&stage](QWidget* dialog) {
+            stage.shootTogether(QStringLiteral("start"), {stage.dropWindow(), dialog});
+            endDialog(stage, dialog, QStringLiteral("No"));
+        }});
+}
+
+void switchCheckAtStart(Stage& stage, const QWidget* dialog)
+{
+    auto* const box = stage.find<QCheckBox>(dialog);
+    const bool before = isCheckedAtStart();
+    stage.press(box, Qt::Key_Space);
+    stage.check(isCheckedAtStart() != before, QStringLiteral("the box switches at once"));
+    stage.press(box, Qt::Key_Space);
+    stage.check(isCheckedAtStart() == before, QStringLiteral("the box switches back"));
+}
+
+} // namespace
+
+void checkUpdates(Stage& stage)
+{
+    // This program on this machine is all that is ever asked.
+    HttpServer server(HttpServer::ok("!date!;;;9999-12-31"));
+    App::app()->setUpdateService({{server.host()}});
+    showNewsAtStart(stage);
+
+    stage.dropPhotos();
+    const int opened = stage.urls().urls().size();
+    withCheck(stage, QStringLiteral("the newer version"), [&stage](QWidget* dialog) {
+        stage.shoot(QStringLiteral("newer"), dialog);
+        stage.shootTogether(QStringLiteral("page"), {stage.page(), dialog});
+        switchCheckAtStart(stage, dialog);
+        endDialog(stage, dialog, QStringLiteral("Yes"));
+    });
+    stage.check(stage.urls().urls().size() == opened + 1,
+                QStringLiteral("the updates web page opens"));
+
+    server.setAnswer(HttpServer::ok("!date!;;;2001-01-01"));
+    withCheck(stage, QStringLiteral("the latest version"), [&stage](QWidget* dialog) {
+        stage.shoot(QStringLiteral("latest"), dialog);
+        endDialog(stage, dialog, QStringLiteral("No"));
+    });
+
+    App::app()->setUpdateService({{HttpServer::refusingHost()}});
+    withCheck(stage, QStringLiteral("the error"), [&stage](QWidget* dialog) {
+        stage.shoot(QStringLiteral("error"), dialog);
+        endDialog(stage, dialog, QStringLiteral("Ok"));
+    });
+    App::app()->setUpdateService({});
+}

@@ -4,6 +4,7 @@
 #include "support/TestMain.h"
 #include "support/UrlCatcher.h"
 
+#include <memory>
 #include <optional>
 #include <QCheckBox>
 #include <QComboBox>
@@ -274,6 +275,8 @@ private slots:
         App* const app = App::app();
         app->setUpdateService({{server.host(), server.host()}, 60000});
         app->setSettingsValue(kLastCheck, day(-9));
+        auto mainWindow = std::make_unique<QWidget>();
+        app->setMainWidget(mainWindow.get());
         int dialogs = 0;
         QTimer watch;
         connect(&watch, &QTimer::timeout, app, [&] {
@@ -288,8 +291,11 @@ private slots:
         QTimer::singleShot(0, app, isQuiet ? &App::nop_cuos : &App::slotCheckUpdate);
         QCOMPARE(App::exec(), 0);
         QCOMPARE(dialogs > 0, !answer.isEmpty());
-        // Nothing is begun after the end: no second host, no dialog.
+        // Nothing is begun after the end: no second request, no message box, which the main window
+        // would still own.
         QCOMPARE(server.requests().count(), 1);
+        QCOMPARE(mainWindow->findChildren<QDialog*>().count(), answer == kUseless ? 1 : 0);
+        mainWindow.reset();
         QVERIFY(!QApplication::activeModalWidget());
         QVERIFY(App::isUserFree());
     }

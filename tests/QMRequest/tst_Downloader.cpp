@@ -181,7 +181,7 @@ private slots:
     void endsWithTheProgram()
     {
         HttpServer server((QByteArray()));
-        connect(&server, &HttpServer::asked, qApp, &QCoreApplication::quit);
+        connect(&server, &HttpServer::asked, QCoreApplication::instance(), &QCoreApplication::quit);
         bool brokenOff = false;
         QTimer::singleShot(0, &server, [&] {
             Downloader downloader;

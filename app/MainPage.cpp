@@ -6,6 +6,7 @@
 #include "flow/NodesOptionsPanel.h"
 #include "intake/Creator.h"
 #include "preview/Representor.h"
+#include <QMWidgets/App.h>
 #include <QMWidgets/PromoMenuBar.h>
 
 #include <QHBoxLayout>
@@ -78,6 +79,7 @@ void MainPage::slotFilesDropped(const QList<QUrl>& urls)
         m_creator->setFiles(urls);
     }
     show();
+    QMWidgets::App::app()->showHelpIfDue();
 }
 
 void MainPage::slotShowSettings()

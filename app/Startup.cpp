@@ -1,6 +1,7 @@
 #include "app/Startup.h"
 
 #include "app/Catalogue.h"
+#include "app/HelpSlides.h"
 #include "app/MainPage.h"
 #include "app/StyleSheet.h"
 #include "flow/FlowsFolder.h"
@@ -50,6 +51,7 @@ void openProgram(QMWidgets::App& app, MainPage& page, QMWidgets::DropWidget& dro
 {
     fillCatalogue(*page.menuBar());
     QObject::connect(&app, &QMWidgets::App::dockClicked, &page, &MainPage::showNormal);
+    app.setHelpImages(helpSlides(app.language(), app.resourcesPath()));
     page.setWindowTitle(QCoreApplication::applicationName());
     dropWindow.setWindowTitle(QCoreApplication::applicationName());
     dropWindow.resize(400, 400);

@@ -2,12 +2,17 @@
 #include "support/UrlCatcher.h"
 
 #include <QMWidgets/App.h>
+#include <QMWidgets/JoinWidget.h>
 #include <QMWidgets/MailUrl.h>
 #include <QMWidgets/MakerSite.h>
 #include <QMWidgets/OpenInFileManager.h>
+#include <QMWidgets/TellWidget.h>
+#include <QPushButton>
 #include <QUrlQuery>
 
 using QMWidgets::App;
+using QMWidgets::JoinWidget;
+using QMWidgets::TellWidget;
 namespace MakerSite = QMWidgets::MakerSite;
 
 namespace
@@ -31,6 +36,7 @@ private slots:
     {
         App* app = App::app();
         UrlCatcher catcher;
+        QWidget parent;
         const QString friendMail = QStringLiteral(
             "mailto:?subject=Check out the cool Tessarin app!&body=Hi, check out this "
             "cool Tessarin app - available in the App Stores: ");
@@ -41,6 +47,15 @@ private slots:
         app->slotTellFriend();
         QCOMPARE(readable(catcher.take()), friendMail + page + QStringLiteral(".html"));
 
+        // Without addresses there is nothing but the mail to share by.
+        for (const QWidget* widget :
+             std::initializer_list<QWidget*>{new TellWidget(&parent), new JoinWidget(&parent)}) {
+            for (const QPushButton* button : widget->findChildren<QPushButton*>()) {
+                QCOMPARE(button->isHidden(),
+                         !button->objectName().startsWith(QLatin1String("Email")));
+            }
+        }
+
         app->setupWebLinks();
         QCOMPARE(app->facebookUrl(), page + QStringLiteral("/facebook.php"));
         QCOMPARE(app->twitterUrl(), page + QStringLiteral("/twitter.php"));
@@ -49,6 +64,13 @@ private slots:
         QCOMPARE(readable(catcher.take()), page);
         app->slotTellFriend();
         QCOMPARE(readable(catcher.take()), friendMail + page);
+
+        const QString name = QCoreApplication::applicationName();
+        QCoreApplication::setApplicationName(QStringLiteral("A&B"));
+        app->slotTellFriend();
+        QCoreApplication::setApplicationName(name);
+        QCOMPARE(readable(catcher.take()),
+                 QString(friendMail).replace(name, QStringLiteral("A&B")) + page);
     }
 
     void opensPages()

@@ -1,3 +1,4 @@
+#include "support/ModalDialog.h"
 #include "support/TestMain.h"
 #include "support/UrlCatcher.h"
 
@@ -37,7 +38,7 @@ class tst_PromoMenuBar : public QObject
     Q_OBJECT
 
 private slots:
-    void showsOnlyWhatWorks()
+    void showsNoStoreButtons()
     {
         PromoMenuBar bar;
         bar.setMoreAppsButtonHidden();
@@ -52,7 +53,8 @@ private slots:
             QVERIFY(!button->accessibleName().isEmpty());
         }
         visible.sort();
-        QCOMPARE(visible, QStringList({QStringLiteral("AppButton"), QStringLiteral("MoreButton")}));
+        QCOMPARE(visible, QStringList({"AppButton", "IntroButton", "JoinButton", "MoreButton",
+                                       "ShareButton"}));
     }
 
     void catalogueOpensAddresses()
@@ -83,16 +85,36 @@ private slots:
         UrlCatcher catcher;
         const PromoMenuBar bar;
         const QMenu* menu = menuOf(bar, "AppButton");
-        QCOMPARE(textsOf(menu),
-                 QStringList({QStringLiteral("More Apps"), QStringLiteral("Contacts Us"),
-                              QStringLiteral("Support Page"), QStringLiteral("Check Updates"),
-                              QStringLiteral("-"), QStringLiteral("Quit")}));
-        menu->actions().at(0)->trigger();
-        QCOMPARE(catcher.take().value(0).path(), QStringLiteral("/apps"));
-        menu->actions().at(1)->trigger();
-        QCOMPARE(catcher.take().value(0).scheme(), QStringLiteral("mailto"));
+        QCOMPARE(textsOf(menu), QStringList({"Share", "Join Us", "More Apps", "Contacts Us",
+                                             "Support Page", "-", "Quit"}));
         menu->actions().at(2)->trigger();
+        QCOMPARE(catcher.take().value(0).path(), QStringLiteral("/apps"));
+        menu->actions().at(3)->trigger();
+        QCOMPARE(catcher.take().value(0).scheme(), QStringLiteral("mailto"));
+        menu->actions().at(4)->trigger();
         QCOMPARE(catcher.take().value(0).host(), QUrl(QMWidgets::MakerSite::home()).host());
+    }
+
+    void opensTheDialogs()
+    {
+        const PromoMenuBar bar;
+        const QList<QAction*> entries = menuOf(bar, "AppButton")->actions();
+        const auto button = [&bar](const char* name) {
+            return bar.findChild<QPushButton*>(QLatin1String(name));
+        };
+        const struct {
+            std::function<void()> open;
+            const char* title;
+        } ways[] = {{[&] { button("IntroButton")->click(); }, "Tessarin Introduction"},
+                    {[&] { button("ShareButton")->click(); }, "Share Tessarin"},
+                    {[&] { entries.at(0)->trigger(); }, "Share Tessarin"},
+                    {[&] { button("JoinButton")->click(); }, "Join us"},
+                    {[&] { entries.at(1)->trigger(); }, "Join us"}};
+        for (const auto& way : ways) {
+            QString title;
+            withModalDialog(way.open, [&title](QDialog* dialog) { title = dialog->windowTitle(); });
+            QCOMPARE(title, QLatin1String(way.title));
+        }
     }
 
     void quitEndsTheProgram()

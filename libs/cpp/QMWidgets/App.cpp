@@ -2,8 +2,7 @@
 
 #include "BlenderWidget.h"
 #include "BuildDate.h"
-#include "UpdateCheck.h"
-#include "UpdateSettings.h"
+#include "HelpDialog.h"
 #include "WindowsVersionName.h"
 #include <QMWidgets/MakerSite.h>
 
@@ -20,7 +19,7 @@ namespace QMWidgets
 namespace
 {
 
-constexpr int kUpdateCheckDelay = 2000; // milliseconds after the start
+constexpr int kHelpDelay = 500; // milliseconds
 
 /// Events in hand on the stack of this thread. Those of worker threads go through the application
 /// object, too.
@@ -36,7 +35,8 @@ QString settingsKey(const QString& key)
 } // namespace
 
 App::App(int& argc, char** argv, const QString& organization, const QString& application)
-    : QApplication(argc, argv)
+    : QApplication(argc, argv),
+      m_helpTimer(new QTimer(this))
 {
     setOrganizationName(organization);
     setApplicationName(application);
@@ -50,10 +50,16 @@ App::App(int& argc, char** argv, const QString& organization, const QString& app
     m_resourcesPath = QStringLiteral("Resources/");
     m_directDistribution = true;
     qInstallMessageHandler(dropMessage);
-    m_updateCheck = new UpdateCheck(this);
-    if (UpdateSettings::isCheckedAtStart()) {
-        QTimer::singleShot(kUpdateCheckDelay, this, &App::nop_cuos);
-    }
+    m_helpTimer->setObjectName(QStringLiteral("HelpTimer"));
+    m_helpTimer->setSingleShot(true);
+    m_helpTimer->setInterval(kHelpDelay);
+    connect(m_helpTimer, &QTimer::timeout, this, &App::showHelpWhenFree);
+}
+
+App::~App()
+{
+    // One that was made while no window was active has no other owner.
+    delete m_helpDialog;
 }
 
 App* App::app()

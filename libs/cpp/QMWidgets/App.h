@@ -4,17 +4,18 @@
 #include <QDate>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QWidget>
 
 class QSettings;
+class QTimer;
 
 namespace QMWidgets
 {
 
 class BlenderWidget;
-class UpdateCheck;
-struct UpdateService;
+class HelpDialog;
 
 /// The application object: settings, folders, web addresses and the veil over the main window.
 /// It knows nothing of photos. The constructor drops all messages of the toolkit from then on; a
@@ -29,6 +30,7 @@ public:
     /// Sets the identity, looks whether this is the first run and makes the application's home
     /// folder. `argc` has to outlive the object.
     App(int& argc, char** argv, const QString& organization, const QString& application);
+    ~App() override;
 
     /// The running application, or null if the application object is of another class.
     static App* app();
@@ -74,6 +76,12 @@ public:
     /// Folder of the files that are shipped beside the program, relative to the working directory,
     /// with a slash at its end.
     QString resourcesPath() const { return m_resourcesPath; }
+    /// The pictures of the help, in the order of the show. They are taken when the help is opened
+    /// for the first time.
+    void setHelpImages(const QStringList& paths) { m_helpImages = paths; }
+    /// Opens the help after half a second, unless the user has turned that off. If he is in the
+    /// middle of something by then, it waits until he is done.
+    void showHelpIfDue();
     /// The application's page on the maker's site, opened by slotGoToPromotedApp().
     void setPromotedAppUrl(const QString& url) { m_productPage = url; }
     /// Forms the social and support addresses from the application's name.
@@ -120,7 +128,12 @@ public slots:
     void slotShowMoreApps();
     void slotRateApp();
     void slotSupportPage();
+    /// Runs the help as a modal dialog. It is kept, and goes on from the slide shown last.
+    void slotHelp();
     void slotGoToPromotedApp();
+    /// Run the dialogs that share the program and lead to the maker's pages.
+    void slotShareApp();
+    void slotJoin();
     /// Shows or hides the veil over the main window; without a main window nothing happens.
     void slotSetBlendMainWidget(bool on);
     /// Asks whether there is a newer release and tells the user, also if that can't be found out.
@@ -130,8 +143,16 @@ public slots:
     void nop_cuos();
 
 private:
+    /// Whether the user is left in peace by a dialog that opens by itself now: no other dialog or
+    /// menu is open, no mouse button is down, and the program does nothing but wait for him.
+    static bool isUserFree();
+    void showHelpWhenFree();
+
     QSettings* m_settings = nullptr;
     QString m_language = QStringLiteral("en");
+    QPointer<HelpDialog> m_helpDialog;
+    QTimer* m_helpTimer;
+    QStringList m_helpImages;
     QString m_productPage;
     QString m_facebookUrl;
     QString m_twitterUrl;

@@ -45,13 +45,13 @@ void App::slotContactUs()
 
 void App::slotTellFriend()
 {
-    const QString name = applicationName();
     const QString page =
         m_supportUrl.isEmpty() ? applicationPage() + QStringLiteral(".html") : m_supportUrl;
-    openAddress(
-        mailUrl(QString(), QStringLiteral("Check out the cool %1 app!").arg(name),
-                QStringLiteral("Hi, check out this cool %1 app - available in the App Stores: %2")
-                    .arg(name, page)));
+    // Deliberate: the name goes into the address as it stands.
+    openAddress(QUrl(QStringLiteral("mailto:?subject=Check out the cool %1 app!"
+                                    "&body=Hi, check out this cool %1 app - available in the App "
+                                    "Stores: %2")
+                         .arg(applicationName(), page)));
 }
 
 void App::slotShowMoreApps()

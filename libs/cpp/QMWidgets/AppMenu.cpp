@@ -20,6 +20,8 @@ const Entry kRateEntry = {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Rate this App
 
 /// The entries above the separator, from top to bottom.
 const Entry kEntries[] = {
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Share"), ":/share_hover.png", &App::slotShareApp},
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Join Us"), ":/join_hover.png", &App::slotJoin},
     {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "More Apps"), ":/moreappsicon.png",
      &App::slotShowMoreApps},
     {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Contacts Us"), ":/feedback.png", // sic

@@ -53,15 +53,14 @@ PromoMenuBar::PromoMenuBar(QWidget* parent)
 
     m_moreAppsButton->hide();
     m_rateButton->hide();
-    // Each of these is shown together with the dialog it opens.
-    m_introButton->hide();
-    m_shareButton->hide();
-    m_joinButton->hide();
 
     App* app = App::app();
     connect(m_appButton, &AppButton::quitPressed, app, &App::quit);
     connect(m_rateButton, &QPushButton::clicked, app, &App::slotRateApp);
+    connect(m_introButton, &QPushButton::clicked, app, &App::slotHelp);
     connect(m_moreAppsButton, &QPushButton::clicked, app, &App::slotShowMoreApps);
+    connect(m_shareButton, &QPushButton::clicked, app, &App::slotShareApp);
+    connect(m_joinButton, &QPushButton::clicked, app, &App::slotJoin);
 
     layOut();
 }

@@ -1,0 +1,54 @@
+#include "App.h"
+#include "HelpDialog.h"
+#include "JoinDialog.h"
+#include "TellDialog.h"
+
+#include <QTimer>
+
+namespace QMWidgets
+{
+
+void App::showHelpIfDue()
+{
+    if (!HelpDialog::isNeverShown()) {
+        m_helpTimer->start();
+    }
+}
+
+void App::showHelpWhenFree()
+{
+    if (isUserFree()) {
+        slotHelp();
+    } else {
+        m_helpTimer->start();
+    }
+}
+
+void App::slotHelp()
+{
+    // Whoever opens the help by hand has seen it for this start.
+    m_helpTimer->stop();
+    if (!m_helpDialog) {
+        m_helpDialog = new HelpDialog(activeWindow());
+        for (const QString& path : qAsConst(m_helpImages)) {
+            m_helpDialog->addSlide(path);
+        }
+    }
+    if (!m_helpDialog->isVisible()) {
+        m_helpDialog->exec();
+    }
+}
+
+void App::slotShareApp()
+{
+    TellDialog dialog(activeWindow());
+    dialog.exec();
+}
+
+void App::slotJoin()
+{
+    JoinDialog dialog(activeWindow());
+    dialog.exec();
+}
+
+} // namespace QMWidgets

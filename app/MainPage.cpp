@@ -8,10 +8,16 @@
 #include "preview/Representor.h"
 #include <QMWidgets/App.h>
 #include <QMWidgets/PromoMenuBar.h>
+#include <QMWidgets/ReminderType.h>
 
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+namespace
+{
+constexpr int kReminderPeriod = 5;
+} // namespace
 
 MainPage::MainPage(QWidget* parent)
     : PromoMainPage(parent)
@@ -79,7 +85,9 @@ void MainPage::slotFilesDropped(const QList<QUrl>& urls)
         m_creator->setFiles(urls);
     }
     show();
-    QMWidgets::App::app()->showHelpIfDue();
+    QMWidgets::App* const app = QMWidgets::App::app();
+    app->showHelpIfDue();
+    app->scheduleReminder(kReminderPeriod, QMWidgets::TellReminder | QMWidgets::JoinReminder);
 }
 
 void MainPage::slotShowSettings()

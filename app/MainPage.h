@@ -21,7 +21,8 @@ public:
     explicit MainPage(QWidget* parent);
 
 public slots:
-    /// Takes the first photos and shows the page. An empty list shows it without a photo.
+    /// Takes the first photos and shows the page; help and reminders follow when they are due. An
+    /// empty list shows it without a photo.
     void slotFilesDropped(const QList<QUrl>& urls);
     void slotShowSettings();
 

@@ -82,6 +82,10 @@ public:
     /// Opens the help after half a second, unless the user has turned that off. If he is in the
     /// middle of something by then, it waits until he is done.
     void showHelpIfDue();
+    /// Some seconds from now comes an occasion for a reminder, of one of the types (ReminderType)
+    /// whose bits are set. Every `period`th occasion shows it, counted over all runs; a period
+    /// below 1 shows none.
+    void scheduleReminder(int period, int types);
     /// The application's page on the maker's site, opened by slotGoToPromotedApp().
     void setPromotedAppUrl(const QString& url) { m_productPage = url; }
     /// Forms the social and support addresses from the application's name.
@@ -119,6 +123,13 @@ signals:
     void dockClicked();
 
 public slots:
+    /// An occasion for a reminder. One that is due while the user is busy waits until he is not,
+    /// and is counted only then.
+    void slotCallRateReminderInternal();
+    /// Set the type of the reminder and start the time to its occasion.
+    void slotCallRateReminder();
+    void slotCallTellReminder();
+    void slotCallJoinReminder();
     /// Veils the main window unless it is the active one.
     void slotFocusChanged(QWidget* old, QWidget* now);
     /// Opens a mail to the maker's support that names application, system and language.
@@ -147,13 +158,17 @@ private:
     /// menu is open, no mouse button is down, and the program does nothing but wait for him.
     static bool isUserFree();
     void showHelpWhenFree();
+    void startReminderDelay();
 
     QSettings* m_settings = nullptr;
     QString m_language = QStringLiteral("en");
+    int m_reminderPeriod = 10;
+    int m_reminderDelay = 4000; // milliseconds
     QPointer<HelpDialog> m_helpDialog;
     QTimer* m_helpTimer;
     QStringList m_helpImages;
     QString m_productPage;
+    int m_reminderType = 0;
     QString m_facebookUrl;
     QString m_twitterUrl;
     QString m_vkontakteUrl;

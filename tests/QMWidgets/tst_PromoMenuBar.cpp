@@ -86,7 +86,7 @@ private slots:
         const PromoMenuBar bar;
         const QMenu* menu = menuOf(bar, "AppButton");
         QCOMPARE(textsOf(menu), QStringList({"Share", "Join Us", "More Apps", "Contacts Us",
-                                             "Support Page", "-", "Quit"}));
+                                             "Support Page", "About", "-", "Quit"}));
         menu->actions().at(2)->trigger();
         QCOMPARE(catcher.take().value(0).path(), QStringLiteral("/apps"));
         menu->actions().at(3)->trigger();
@@ -109,7 +109,8 @@ private slots:
                     {[&] { button("ShareButton")->click(); }, "Share Tessarin"},
                     {[&] { entries.at(0)->trigger(); }, "Share Tessarin"},
                     {[&] { button("JoinButton")->click(); }, "Join us"},
-                    {[&] { entries.at(1)->trigger(); }, "Join us"}};
+                    {[&] { entries.at(1)->trigger(); }, "Join us"},
+                    {[&] { entries.at(5)->trigger(); }, "Tessarin Info"}};
         for (const auto& way : ways) {
             QString title;
             withModalDialog(way.open, [&title](QDialog* dialog) { title = dialog->windowTitle(); });

@@ -132,6 +132,9 @@ public slots:
     void slotCallJoinReminder();
     /// Veils the main window unless it is the active one.
     void slotFocusChanged(QWidget* old, QWidget* now);
+    /// Shows a new style sheet editor, which is not modal and goes when it is closed. It does not
+    /// keep the program running.
+    void slotShowCssEditor();
     /// Opens a mail to the maker's support that names application, system and language.
     void slotContactUs();
     /// Opens a ready-made mail with no addressee that recommends the application.
@@ -142,9 +145,10 @@ public slots:
     /// Runs the help as a modal dialog. It is kept, and goes on from the slide shown last.
     void slotHelp();
     void slotGoToPromotedApp();
-    /// Run the dialogs that share the program and lead to the maker's pages.
+    /// Run the dialogs that share the program, lead to the maker's pages and tell the version.
     void slotShareApp();
     void slotJoin();
+    void slotAbout();
     /// Shows or hides the veil over the main window; without a main window nothing happens.
     void slotSetBlendMainWidget(bool on);
     /// Asks whether there is a newer release and tells the user, also if that can't be found out.

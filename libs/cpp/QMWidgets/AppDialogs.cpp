@@ -1,4 +1,6 @@
+#include "AboutDialog.h"
 #include "App.h"
+#include "CssEditor.h"
 #include "HelpDialog.h"
 #include "JoinDialog.h"
 #include "TellDialog.h"
@@ -49,6 +51,22 @@ void App::slotJoin()
 {
     JoinDialog dialog(activeWindow());
     dialog.exec();
+}
+
+void App::slotAbout()
+{
+    const QPointer<AboutDialog> dialog = new AboutDialog(m_mainWidget);
+    dialog->exec();
+    delete dialog;
+}
+
+void App::slotShowCssEditor()
+{
+    auto* editor = new CssEditor;
+    editor->setAttribute(Qt::WA_DeleteOnClose);
+    editor->setAttribute(Qt::WA_QuitOnClose, false);
+    connect(this, &App::aboutToQuit, editor, &CssEditor::deleteLater);
+    editor->show();
 }
 
 } // namespace QMWidgets

@@ -28,8 +28,7 @@ const Entry kEntries[] = {
      &App::slotContactUs},
     {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Support Page"), ":/webpage.png",
      &App::slotSupportPage},
-    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Check Updates"), ":/star.png", &App::slotCheckUpdate,
-     false},
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "About"), ":/appicon.png", &App::slotAbout},
 };
 
 void addEntry(QMenu* menu, const Entry& entry, App* app)

@@ -1,5 +1,7 @@
 #include "FileDialog.h"
 
+#include <QFileInfo>
+
 namespace QMWidgets
 {
 
@@ -42,6 +44,15 @@ QStringList FileDialog::getOpenFileNames(QWidget* parent, const QString& caption
 {
     return openFiles(QFileDialog::ExistingFiles, parent, caption, folder, filter, selectedFilter,
                      options);
+}
+
+QString FileDialog::getSaveFileName(QWidget* parent, const QString& caption, const QString& file,
+                                    const QString& filter)
+{
+    QFileDialog dialog(parent, caption, QFileInfo(file).path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(QFileInfo(file).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 } // namespace QMWidgets

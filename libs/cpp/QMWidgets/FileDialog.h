@@ -27,6 +27,13 @@ public:
                                         const QString& filter = QString(),
                                         QString* selectedFilter = nullptr,
                                         QFileDialog::Options options = QFileDialog::Options());
+
+    /// Lets the user name a file to write, in a modal dialog that asks before an existing one is
+    /// overwritten. `file`, if given, is the name to begin with. Returns its path, or an empty text
+    /// if the user cancelled.
+    static QString getSaveFileName(QWidget* parent, const QString& caption,
+                                   const QString& file = QString(),
+                                   const QString& filter = QString());
 };
 
 } // namespace QMWidgets

@@ -1,9 +1,11 @@
+#include "app/HelpSlides.h"
 #include "app/MainPage.h"
 #include "support/TestMain.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QMWidgets/App.h>
 #include <QPushButton>
 #include <QTimer>
 
@@ -42,6 +44,35 @@ private slots:
         });
         page.findChild<QPushButton*>(QStringLiteral("SettingsButton"))->click();
         QCOMPARE(title, QStringLiteral("Tessarin Settings"));
+    }
+
+    void photosBringTheHelp()
+    {
+        auto* const app = QMWidgets::App::app();
+        auto* const timer = app->findChild<QTimer*>(QStringLiteral("HelpTimer"));
+        const QString never = QStringLiteral("NeverShowItAgain");
+        MainPage page(nullptr);
+        for (const bool isNever : {true, false}) {
+            app->setSettingsValue(never, isNever);
+            page.slotFilesDropped({});
+            QCOMPARE(timer->isActive(), !isNever);
+        }
+        timer->stop();
+        app->setSettingsValue(never, true);
+    }
+
+    void slidesFollowTheLanguage()
+    {
+        const struct {
+            const char* language;
+            const char* code;
+        } rows[] = {{"en", "en"}, {"de", "de"}, {"ru", "ru"}, {"fr", "en"}, {"DE", "en"}};
+        for (const auto& row : rows) {
+            const QStringList slides = helpSlides(row.language, QStringLiteral("Resources/"));
+            QCOMPARE(slides.size(), 12);
+            QCOMPARE(slides.first(), QStringLiteral("Resources/TS1_%1.jpeg").arg(row.code));
+            QCOMPARE(slides.last(), QStringLiteral("Resources/TS12_%1.jpeg").arg(row.code));
+        }
     }
 
     void buttonsWithoutTextHaveAName()

@@ -28,6 +28,11 @@ const QVector<Scene>& scenes()
         {QStringLiteral("save"), QStringLiteral("Save the results"), saveResults},
         {QStringLiteral("rename"), QStringLiteral("Save the results under new names"), saveRenamed},
         {QStringLiteral("unreadable"), QStringLiteral("Save what can be read"), saveReadable},
+        {QStringLiteral("help"), QStringLiteral("The help, by itself and by hand"), showHelp},
+        {QStringLiteral("outreach"), QStringLiteral("Share, join and the about box"),
+         showAppDialogs},
+        {QStringLiteral("reminders"), QStringLiteral("The reminders"), showReminders},
+        {QStringLiteral("stylesheet"), QStringLiteral("Edit the style sheet"), editStyleSheet},
     };
     return all;
 }

@@ -47,6 +47,9 @@ Stage::Stage(int& argc, char** argv, const QStringList& photos, const QString& p
     // Windows close and open between the scenes.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     setUpApplication(*m_app);
+    // They would open in the middle of any scene; their own scenes ask for them.
+    m_app->setSettingsValue(QStringLiteral("NeverShowItAgain"), true);
+    m_app->setSettingsValue(QStringLiteral("AutoReminder"), false);
 }
 
 Stage::~Stage()
@@ -188,30 +191,13 @@ void Stage::withMenu(QPushButton* button, const MenuAct& act)
 void Stage::withDialog(QPushButton* button, const QString& what, const DialogAct& act)
 {
     if (button) {
-        Attendant attendant(what, &QApplication::activeModalWidget, act, m_complaints);
-        click(button);
+        withDialog([this, button] { click(button); }, what, act);
     }
 }
 
-void Stage::withDialogs(const std::function<void()>& open, const QString& what,
-                        std::initializer_list<DialogAct> acts)
+void Stage::withDialog(const std::function<void()>& open, const QString& what, const DialogAct& act)
 {
-    QPointer<QWidget> last;
-    int done = 0;
-    std::vector<std::unique_ptr<Attendant>> attendants;
-    for (const DialogAct& act : acts) {
-        const int turn = int(attendants.size());
-        const auto find = [&last, &done, turn]() -> QWidget* {
-            QWidget* const dialog = QApplication::activeModalWidget();
-            return turn == done && dialog != last ? dialog : nullptr;
-        };
-        const auto answer = [&last, &done, &act](QWidget* dialog) {
-            last = dialog;
-            ++done;
-            act(dialog);
-        };
-        attendants.push_back(std::make_unique<Attendant>(what, find, answer, m_complaints));
-    }
+    Attendant attendant(what, &QApplication::activeModalWidget, act, m_complaints);
     open();
 }
 

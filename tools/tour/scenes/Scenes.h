@@ -18,3 +18,7 @@ void showEachOperation(Stage& stage);
 void saveResults(Stage& stage);
 void saveRenamed(Stage& stage);
 void saveReadable(Stage& stage);
+void showHelp(Stage& stage);
+void showReminders(Stage& stage);
+void showAppDialogs(Stage& stage);
+void editStyleSheet(Stage& stage);

@@ -1,0 +1,56 @@
+#include "scenes/Scenes.h"
+#include "scenes/SettingsSteps.h"
+#include "Stage.h"
+
+namespace
+{
+
+const QString kOn = QStringLiteral("AutoReminder");
+const QString kCount = QStringLiteral("AutoReminderCount");
+constexpr int kDueCount = 10; // for the program's own period and for the one of the page
+
+struct Form {
+    const char* picture;
+    void (QMWidgets::App::*start)();
+    const char* answer;
+};
+
+void showForm(Stage& stage, const Form& form)
+{
+    QMWidgets::App* const app = QMWidgets::App::app();
+    app->setSettingsValue(kOn, true);
+    app->setSettingsValue(kCount, kDueCount);
+    bool closed = false;
+    stage.withDialog(
+        [&] {
+            (app->*form.start)();
+            stage.waitFor([&closed] { return closed; }, QLatin1String(form.picture));
+        },
+        QLatin1String(form.picture),
+        [&](QWidget* dialog) {
+            stage.shoot(QLatin1String(form.picture), dialog);
+            stage.shootTogether(form.picture + QStringLiteral("-page"), {stage.page(), dialog});
+            for (QWidget* const part : dialog->findChildren<QWidget*>()) {
+                // Two buttons have that text, and one is hidden.
+                if (part->isVisible() && part->property("text") == QLatin1String(form.answer)) {
+                    stage.click(part);
+                }
+            }
+            closed = true;
+        });
+}
+
+} // namespace
+
+void showReminders(Stage& stage)
+{
+    stage.dropPhotos();
+    const Form forms[] = {{"rate", &QMWidgets::App::slotCallRateReminder, "&Maybe Later"},
+                          {"tell", &QMWidgets::App::slotCallTellReminder, "&Maybe Later"},
+                          {"join", &QMWidgets::App::slotCallJoinReminder, "&Never Ask Me Again"}};
+    for (const Form& form : forms) {
+        showForm(stage, form);
+    }
+    stage.check(!QMWidgets::App::app()->settingsValue(kOn, true).toBool(),
+                QStringLiteral("the reminders end for good"));
+}

@@ -174,6 +174,26 @@ private slots:
         QCOMPARE(count(), 5);
     }
 
+    /// As in a flow that lets events through between two operations.
+    void waitsForWorkInHand()
+    {
+        App* const app = App::app();
+        app->scheduleReminder(5, JoinReminder);
+        store(true, 5);
+        bool occasion = false;
+        const auto work = [&] {
+            QTimer::singleShot(0, app, [&] {
+                app->slotCallRateReminderInternal();
+                occasion = true;
+            });
+            QVERIFY(QTest::qWaitFor([&] { return occasion; }));
+        };
+        QTimer::singleShot(0, app, work);
+        withModalDialog([&] { QVERIFY(QTest::qWaitFor([&] { return occasion; })); },
+                        [](QDialog*) { QFAIL("a dialog stops the work"); });
+        QCOMPARE(count(), 5);
+    }
+
     /// The user's own dialog stays on top, and the reminder comes after it.
     void waitsForTheUser()
     {

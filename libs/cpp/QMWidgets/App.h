@@ -169,7 +169,6 @@ private:
     int m_reminderPeriod = 10;
     int m_reminderDelay = 4000; // milliseconds
     QPointer<HelpDialog> m_helpDialog;
-    QTimer* m_helpTimer;
     QStringList m_helpImages;
     QString m_productPage;
     int m_reminderType = 0;
@@ -183,7 +182,7 @@ private:
     QString m_usesText;
     bool m_firstRun = false;
     bool m_directDistribution = false;
-    UpdateCheck* m_updateCheck = nullptr;
+    QTimer* m_helpTimer;
 };
 
 } // namespace QMWidgets

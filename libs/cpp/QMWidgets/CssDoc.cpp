@@ -29,7 +29,9 @@ CssDoc::CssDoc(QWidget* parent)
 
 void CssDoc::applyLook()
 {
-    setFont(QFont(QStringLiteral("Lucida Console"), 12, QFont::Normal));
+    QFont font(QStringLiteral("Lucida Console"), 12, QFont::Normal);
+    font.setStyleHint(QFont::Monospace); // where that one is missing
+    setFont(font);
     setStyleSheet(QStringLiteral("QTextEdit{background: #000060; color: yellow;}"));
 }
 

@@ -85,8 +85,9 @@ private slots:
         UrlCatcher catcher;
         const PromoMenuBar bar;
         const QMenu* menu = menuOf(bar, "AppButton");
-        QCOMPARE(textsOf(menu), QStringList({"Share", "Join Us", "More Apps", "Contacts Us",
-                                             "Support Page", "About", "-", "Quit"}));
+        QCOMPARE(textsOf(menu),
+                 QStringList({"Share", "Join Us", "More Apps", "Contacts Us", "Support Page",
+                              "Check Updates", "About", "-", "Quit"}));
         menu->actions().at(2)->trigger();
         QCOMPARE(catcher.take().value(0).path(), QStringLiteral("/apps"));
         menu->actions().at(3)->trigger();
@@ -110,7 +111,7 @@ private slots:
                     {[&] { entries.at(0)->trigger(); }, "Share Tessarin"},
                     {[&] { button("JoinButton")->click(); }, "Join us"},
                     {[&] { entries.at(1)->trigger(); }, "Join us"},
-                    {[&] { entries.at(5)->trigger(); }, "Tessarin Info"}};
+                    {[&] { entries.at(6)->trigger(); }, "Tessarin Info"}};
         for (const auto& way : ways) {
             QString title;
             withModalDialog(way.open, [&title](QDialog* dialog) { title = dialog->windowTitle(); });

@@ -97,7 +97,7 @@ private slots:
         app->setMainWidget(&page);
         page.slotFilesDropped({});
         const auto* const menu = page.findChild<QPushButton*>(QStringLiteral("AppButton"))->menu();
-        QAction* const entry = menu->actions().at(menu->actions().count() - 3);
+        QAction* const entry = menu->actions().at(menu->actions().count() - 4);
         QCOMPARE(entry->text(), QStringLiteral("Check Updates"));
         QCOMPARE(dialogsOf([entry] { entry->trigger(); }), QStringList(dialog));
         QCOMPARE(lastCheck(), day(-10));

@@ -191,13 +191,29 @@ void Stage::withMenu(QPushButton* button, const MenuAct& act)
 void Stage::withDialog(QPushButton* button, const QString& what, const DialogAct& act)
 {
     if (button) {
-        withDialog([this, button] { click(button); }, what, act);
+        withDialogs([this, button] { click(button); }, what, {act});
     }
 }
 
-void Stage::withDialog(const std::function<void()>& open, const QString& what, const DialogAct& act)
+void Stage::withDialogs(const std::function<void()>& open, const QString& what,
+                        std::initializer_list<DialogAct> acts)
 {
-    Attendant attendant(what, &QApplication::activeModalWidget, act, m_complaints);
+    QPointer<QWidget> last;
+    int done = 0;
+    std::vector<std::unique_ptr<Attendant>> attendants;
+    for (const DialogAct& act : acts) {
+        const int turn = int(attendants.size());
+        const auto find = [&last, &done, turn]() -> QWidget* {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            return turn == done && dialog != last ? dialog : nullptr;
+        };
+        const auto answer = [&last, &done, &act](QWidget* dialog) {
+            last = dialog;
+            ++done;
+            act(dialog);
+        };
+        attendants.push_back(std::make_unique<Attendant>(what, find, answer, m_complaints));
+    }
     open();
 }
 

@@ -79,8 +79,9 @@ public:
     void withMenu(QPushButton* button, const MenuAct& act);
     /// The same for a dialog that is modal; `act` has to end it.
     void withDialog(QPushButton* button, const QString& what, const DialogAct& act);
-    /// The same for one that opens while `open` goes on.
-    void withDialog(const std::function<void()>& open, const QString& what, const DialogAct& act);
+    /// The same for dialogs that come one after the other out of `open`, with an act for each.
+    void withDialogs(const std::function<void()>& open, const QString& what,
+                     std::initializer_list<DialogAct> acts);
     void chooseEntry(QMenu* menu, const QString& text);
     void chooseItem(QComboBox* box, const QString& text);
 

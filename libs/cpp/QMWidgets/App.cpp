@@ -3,6 +3,8 @@
 #include "BlenderWidget.h"
 #include "BuildDate.h"
 #include "HelpDialog.h"
+#include "UpdateCheck.h"
+#include "UpdateSettings.h"
 #include "WindowsVersionName.h"
 #include <QMWidgets/MakerSite.h>
 
@@ -19,7 +21,8 @@ namespace QMWidgets
 namespace
 {
 
-constexpr int kHelpDelay = 500; // milliseconds
+constexpr int kHelpDelay = 500;         // milliseconds
+constexpr int kUpdateCheckDelay = 2000; // milliseconds after the start
 
 /// Events in hand on the stack of this thread. Those of worker threads go through the application
 /// object, too.
@@ -54,6 +57,10 @@ App::App(int& argc, char** argv, const QString& organization, const QString& app
     m_helpTimer->setSingleShot(true);
     m_helpTimer->setInterval(kHelpDelay);
     connect(m_helpTimer, &QTimer::timeout, this, &App::showHelpWhenFree);
+    m_updateCheck = new UpdateCheck(this);
+    if (UpdateSettings::isCheckedAtStart()) {
+        QTimer::singleShot(kUpdateCheckDelay, this, &App::nop_cuos);
+    }
 }
 
 App::~App()

@@ -16,6 +16,8 @@ namespace QMWidgets
 
 class BlenderWidget;
 class HelpDialog;
+class UpdateCheck;
+struct UpdateService;
 
 /// The application object: settings, folders, web addresses and the veil over the main window.
 /// It knows nothing of photos. The constructor drops all messages of the toolkit from then on; a
@@ -158,9 +160,6 @@ public slots:
     void nop_cuos();
 
 private:
-    /// Whether the user is left in peace by a dialog that opens by itself now: no other dialog or
-    /// menu is open, no mouse button is down, and the program does nothing but wait for him.
-    static bool isUserFree();
     void showHelpWhenFree();
     void startReminderDelay();
 
@@ -183,6 +182,7 @@ private:
     bool m_firstRun = false;
     bool m_directDistribution = false;
     QTimer* m_helpTimer;
+    UpdateCheck* m_updateCheck = nullptr;
 };
 
 } // namespace QMWidgets

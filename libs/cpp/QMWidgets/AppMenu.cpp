@@ -28,6 +28,8 @@ const Entry kEntries[] = {
      &App::slotContactUs},
     {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Support Page"), ":/webpage.png",
      &App::slotSupportPage},
+    {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "Check Updates"), ":/star.png", &App::slotCheckUpdate,
+     false},
     {QT_TRANSLATE_NOOP("QMWidgets::AppMenu", "About"), ":/appicon.png", &App::slotAbout},
 };
 

@@ -29,13 +29,12 @@ void showHelp(Stage& stage)
 {
     QMWidgets::App::app()->setSettingsValue(kNever, false);
     bool closed = false;
-    stage.withDialog(
+    stage.withDialogs(
         [&] {
             stage.dropPhotos();
             stage.waitFor([&closed] { return closed; }, QStringLiteral("the help opens by itself"));
         },
-        QStringLiteral("the help"),
-        [&](QWidget* dialog) {
+        QStringLiteral("the help"), {[&](QWidget* dialog) {
             stage.shoot(QStringLiteral("by-itself"), dialog);
             stage.shootTogether(QStringLiteral("page"), {stage.page(), dialog});
             QPushButton* const fifth = numberOf(stage, dialog, 4);
@@ -44,7 +43,7 @@ void showHelp(Stage& stage)
             stage.shoot(QStringLiteral("chosen"), dialog);
             endDialog(stage, dialog, QStringLiteral("&Never show on start"));
             closed = true;
-        });
+        }});
     stage.check(isNever(), QStringLiteral("the help stays away from now on"));
 
     stage.withDialog(stage.find<QPushButton>(QStringLiteral("IntroButton")),

@@ -51,11 +51,13 @@ void showAppDialogs(Stage& stage)
                          pressSocial(stage, dialog, "TwitterJoinButton", "social=twitter");
                          endDialog(stage, dialog, QStringLiteral("&Close"));
                      });
-    stage.withDialog(
+    stage.withDialogs(
         [&stage] {
             stage.withMenu(
                 stage.find<QPushButton>(QStringLiteral("AppButton")),
                 [&stage](QMenu* menu) { stage.chooseEntry(menu, QStringLiteral("About")); });
         },
-        QStringLiteral("the about box"), [&stage](QWidget* dialog) { showAbout(stage, dialog); });
+        QStringLiteral("the about box"), {[&stage](QWidget* dialog) {
+            showAbout(stage, dialog);
+        }});
 }

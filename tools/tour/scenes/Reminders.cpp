@@ -21,13 +21,12 @@ void showForm(Stage& stage, const Form& form)
     app->setSettingsValue(kOn, true);
     app->setSettingsValue(kCount, kDueCount);
     bool closed = false;
-    stage.withDialog(
+    stage.withDialogs(
         [&] {
             (app->*form.start)();
             stage.waitFor([&closed] { return closed; }, QLatin1String(form.picture));
         },
-        QLatin1String(form.picture),
-        [&](QWidget* dialog) {
+        QLatin1String(form.picture), {[&](QWidget* dialog) {
             stage.shoot(QLatin1String(form.picture), dialog);
             stage.shootTogether(form.picture + QStringLiteral("-page"), {stage.page(), dialog});
             for (QWidget* const part : dialog->findChildren<QWidget*>()) {
@@ -37,7 +36,7 @@ void showForm(Stage& stage, const Form& form)
                 }
             }
             closed = true;
-        });
+        }});
 }
 
 } // namespace

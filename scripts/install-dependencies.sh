@@ -14,7 +14,7 @@ as_root() {
 
 install_debian() {
     local packages=(cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools
-        qt5-image-formats-plugins fonts-dejavu-core)
+        qttranslations5-l10n qt5-image-formats-plugins fonts-dejavu-core)
     local set
     for set in "$@"; do
         case "$set" in
@@ -43,13 +43,14 @@ if installed apt-get; then
     install_debian "$@"
 elif installed dnf; then
     as_root dnf install -y cmake ninja-build gcc-c++ qt5-qtbase-devel qt5-linguist \
-        qt5-qttools-devel qt5-qtimageformats dejavu-sans-fonts
+        qt5-qttools-devel qt5-qtimageformats qt5-qttranslations dejavu-sans-fonts
 elif installed pacman; then
     as_root pacman -S --needed --noconfirm cmake ninja gcc qt5-base qt5-tools qt5-imageformats \
-        ttf-dejavu
+        qt5-translations ttf-dejavu
 elif installed zypper; then
     as_root zypper --non-interactive install cmake ninja gcc-c++ libqt5-qtbase-devel \
-        libqt5-qttools-devel libqt5-linguist-devel libqt5-qtimageformats dejavu-fonts
+        libqt5-qttools-devel libqt5-linguist-devel libqt5-qttranslations \
+        libqt5-qtimageformats dejavu-fonts
 elif installed brew; then
     brew install cmake ninja qt@5
 else

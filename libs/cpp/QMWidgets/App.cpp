@@ -3,6 +3,7 @@
 #include "BlenderWidget.h"
 #include "BuildDate.h"
 #include "HelpDialog.h"
+#include "TranslationsManager.h"
 #include "UpdateCheck.h"
 #include "UpdateSettings.h"
 #include "WindowsVersionName.h"
@@ -35,6 +36,13 @@ QString settingsKey(const QString& key)
     return QCoreApplication::applicationName() + QLatin1Char('/') + key;
 }
 
+QString toolkitNote()
+{
+    return App::tr("<H3>This Application Uses:</H3>") +
+           QStringLiteral("Qt 5 Framework<BR><A HREF=\"%1\">%1</A><BR>")
+               .arg(MakerSite::toolkitSite());
+}
+
 } // namespace
 
 App::App(int& argc, char** argv, const QString& organization, const QString& application)
@@ -45,9 +53,7 @@ App::App(int& argc, char** argv, const QString& organization, const QString& app
     setApplicationName(application);
     // Before the home folder is made, which is itself a trace of a run.
     m_firstRun = hasNoFolders();
-    m_usesText =
-        tr("<H3>This Application Uses:</H3>") +
-        QStringLiteral("Qt 5 Framework<BR><A HREF=\"%1\">%1</A><BR>").arg(MakerSite::toolkitSite());
+    m_usesText = toolkitNote();
     appHomeFolder(true);
     m_settings = new QSettings(organization, application, this);
     m_resourcesPath = QStringLiteral("Resources/");
@@ -86,7 +92,14 @@ void App::setSettingsValue(const QString& key, const QVariant& value)
 
 QString App::language()
 {
+    TranslationsManager::instance();
     return m_language;
+}
+
+void App::setLanguage(const QString& code)
+{
+    m_language = code;
+    m_usesText = toolkitNote();
 }
 
 void App::setUpdateService(const UpdateService& service)

@@ -62,8 +62,10 @@ public:
     static bool copyFileToFolder(const QString& source, const QString& folder,
                                  const QString& newName);
 
-    /// Language code of the interface, such as "en".
+    /// Language code of the interface, such as "en". The first call loads the language's texts.
     QString language();
+    /// Told by the TranslationsManager when it has swapped the texts.
+    void setLanguage(const QString& code);
     /// True if hasNoFolders() was true when the application started.
     bool firstRun() const { return m_firstRun; }
     /// True for a build that a store distributes; this program is given out directly.

@@ -7,6 +7,7 @@
 #include "intake/Creator.h"
 #include "preview/Representor.h"
 #include <QMWidgets/App.h>
+#include <QMWidgets/FollowLanguage.h>
 #include <QMWidgets/PromoMenuBar.h>
 #include <QMWidgets/ReminderType.h>
 
@@ -35,8 +36,10 @@ MainPage::MainPage(QWidget* parent)
     m_settingsButton = new QPushButton;
     m_settingsButton->setObjectName(QStringLiteral("SettingsButton"));
     m_settingsButton->setFlat(true);
-    m_settingsButton->setToolTip(tr("Settings"));
-    m_settingsButton->setAccessibleName(tr("Settings"));
+    QMWidgets::followLanguage(m_settingsButton, [this] {
+        m_settingsButton->setToolTip(tr("Settings"));
+        m_settingsButton->setAccessibleName(tr("Settings"));
+    });
     menuBar()->addRightWidget(m_settingsButton);
     connect(m_settingsButton, &QPushButton::clicked, this, &MainPage::slotShowSettings);
 

@@ -4,6 +4,7 @@
 #include "batch/BatchWorker.h"
 #include "intake/CommonData.h"
 #include <QMWidgets/App.h>
+#include <QMWidgets/FollowLanguage.h>
 #include <QMWidgets/Label.h>
 #include <QMWidgets/OpenInFileManager.h>
 
@@ -35,16 +36,20 @@ QString makeRunFolder()
 BatchDialog::BatchDialog()
     : m_progressBar(new QProgressBar(this)),
       m_infoLabel(new QLabel(this)),
-      m_pauseButton(new QPushButton(tr("Pause"), this)),
-      m_stopButton(new QPushButton(tr("Stop"), this)),
+      m_pauseButton(new QPushButton(this)),
+      m_stopButton(new QPushButton(this)),
       m_previewLabel(new QMWidgets::Label(this))
 {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowStaysOnTopHint);
-    setWindowTitle(QCoreApplication::applicationName() + tr(" Batch Process"));
+    QMWidgets::followLanguage(this, [this] {
+        setWindowTitle(QCoreApplication::applicationName() + tr(" Batch Process"));
+        m_progressBar->setAccessibleName(tr("Progress"));
+        m_pauseButton->setText(tr("Pause"));
+        m_stopButton->setText(tr("Stop"));
+    });
     setMinimumWidth(500);
     m_progressBar->setRange(0, 100);
     m_progressBar->setValue(20);
-    m_progressBar->setAccessibleName(tr("Progress"));
     m_infoLabel->setMaximumHeight(32);
     m_pauseButton->setCheckable(true);
     m_pauseButton->setObjectName(QStringLiteral("BatchPauseButton"));

@@ -3,6 +3,7 @@
 #include "flow/NodesOptionsPanel.h"
 #include "intake/CreatorDropArea.h"
 #include "intake/IconWidget.h"
+#include <QMWidgets/FollowLanguage.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -29,7 +30,8 @@ Creator::Creator(NodesOptionsPanel* panel, QWidget* parent)
     m_iconWidget->hide();
     auto* modeButton = new QPushButton(this);
     modeButton->setObjectName(QStringLiteral("IconViewButton"));
-    modeButton->setAccessibleName(tr("Show one photo"));
+    QMWidgets::followLanguage(
+        modeButton, [modeButton] { modeButton->setAccessibleName(tr("Show one photo")); });
     modeButton->setFlat(true);
     modeButton->setCheckable(true);
     modeButton->setChecked(true);

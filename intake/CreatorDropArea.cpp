@@ -3,6 +3,7 @@
 #include "intake/BaseNameOf.h"
 #include "intake/CommonData.h"
 #include <QMWidgets/FileDialog.h>
+#include <QMWidgets/FollowLanguage.h>
 #include <QMWidgets/StepButtons.h>
 
 #include <QDragEnterEvent>
@@ -21,15 +22,19 @@ CreatorDropArea::CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent)
       m_nextButton(QMWidgets::makeNextButton(this)),
       m_previousButton(QMWidgets::makePreviousButton(this)),
       m_counterLabel(new QLabel(this)),
-      m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")),
-                                   tr("Click to open the photos"), this))
+      m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")), QString(), this))
 {
     setFixedSize(360, 360);
     setAcceptDrops(true);
     setPixmap(QPixmap(QStringLiteral(":/droparea.png")));
     setObjectName(QStringLiteral("DropArea"));
     setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    setText(tr("<H2>Drop the photos here</H2>"));
+    QMWidgets::followLanguage(this, [this] {
+        m_openButton->setText(tr("Click to open the photos"));
+        if (m_urls.isEmpty()) {
+            setText(tr("<H2>Drop the photos here</H2>"));
+        }
+    });
 
     m_openButton->setObjectName(QStringLiteral("PushButton"));
     m_openButton->setFixedHeight(32);

@@ -3,6 +3,7 @@
 #include "intake/CommonData.h"
 #include "intake/ItemsModel.h"
 #include "intake/ListView.h"
+#include <QMWidgets/FollowLanguage.h>
 
 #include <QVBoxLayout>
 
@@ -14,7 +15,7 @@ IconWidget::IconWidget(QWidget* parent)
     setFixedSize(360, 360);
     m_view->setModel(m_model);
     m_view->setObjectName(QStringLiteral("CreatorIconsView"));
-    m_view->setAccessibleName(tr("Photos"));
+    QMWidgets::followLanguage(m_view, [this] { m_view->setAccessibleName(tr("Photos")); });
     connect(m_view, &ListView::currentItemChanged, this, &IconWidget::slotCurrentItem);
 
     auto* layout = new QVBoxLayout(this);

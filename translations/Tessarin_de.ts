@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Output Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeformat</translation>
     </message>
     <message>
         <source>All</source>
@@ -234,7 +234,7 @@
     </message>
     <message>
         <source>Add node</source>
-        <translation type="unfinished"></translation>
+        <translation>Operation hinzufügen</translation>
     </message>
     <message>
         <source>Save the resulted photos to the separate folder</source>

@@ -1,5 +1,7 @@
 #include "MovieLabel.h"
 
+#include "FollowLanguage.h"
+
 #include <QTimer>
 
 namespace QMWidgets
@@ -10,7 +12,7 @@ MovieLabel::MovieLabel(const QString& fileName, QWidget* parent)
       m_movie(fileName, QByteArray())
 {
     setObjectName(QStringLiteral("MovieLabel"));
-    setAccessibleName(tr("Animation"));
+    followLanguage(this, [this] { setAccessibleName(tr("Animation")); });
     setAlignment(Qt::AlignCenter);
     setMovie(&m_movie);
 }

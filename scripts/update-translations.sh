@@ -1,12 +1,25 @@
 #!/usr/bin/env bash
 # Brings translations/*.ts up to the texts of the sources. Texts that are gone are taken out; new ones
 # come in unfinished, and the tests fail until somebody has translated them.
+# With --check nothing is changed, and the script fails if something would be.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-for code in ar de es fr hi it ko pt ru zh_CN; do
-    lupdate -silent -no-obsolete -locations none -source-language en -target-language "$code" \
-        libs -ts "translations/libs_$code.ts"
-    lupdate -silent -no-obsolete -locations none -source-language en -target-language "$code" \
-        app batch flow intake preview -ts "translations/Tessarin_$code.ts"
+target=translations
+if [ "${1:-}" = --check ]; then
+    target=$(mktemp -d)
+    trap 'rm -rf "$target"' EXIT
+    cp translations/*.ts "$target"
+fi
+
+for file in "$target"/*.ts; do
+    case "$file" in
+    */libs_*) folders=(libs) ;;
+    *) folders=(app batch flow intake preview) ;;
+    esac
+    lupdate -silent -no-obsolete -locations none "${folders[@]}" -ts "$file" 2>/dev/null
 done
+
+if [ "$target" != translations ]; then
+    diff -r translations "$target"
+fi

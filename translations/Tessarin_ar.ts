@@ -5,466 +5,466 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>Open Destination Folder When Done</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح مجلد الوجهة عند الانتهاء</translation>
     </message>
     <message>
         <source>Quiality:</source>
-        <translation type="unfinished"></translation>
+        <translation>الجودة:</translation>
     </message>
     <message>
         <source> Settings</source>
-        <translation type="unfinished"></translation>
+        <translation> – الإعدادات</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>موافق</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>الصيغة:</translation>
     </message>
     <message>
         <source>Output Format</source>
-        <translation type="unfinished"></translation>
+        <translation>صيغة الإخراج</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>الكل</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>فردي</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>زوجي</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة التسمية</translation>
     </message>
     <message>
         <source>New Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم الجديد:</translation>
     </message>
     <message>
         <source>Numbers:</source>
-        <translation type="unfinished"></translation>
+        <translation>الأرقام:</translation>
     </message>
 </context>
 <context>
     <name>BCSNode</name>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>السطوع:</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>التباين:</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>التشبع:</translation>
     </message>
 </context>
 <context>
     <name>BINNode</name>
     <message>
         <source>Threshold:</source>
-        <translation type="unfinished"></translation>
+        <translation>العتبة:</translation>
     </message>
 </context>
 <context>
     <name>BLRNode</name>
     <message>
         <source>Blur:</source>
-        <translation type="unfinished"></translation>
+        <translation>التمويه:</translation>
     </message>
 </context>
 <context>
     <name>BatchDialog</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف مؤقت</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source> Batch Process</source>
-        <translation type="unfinished"></translation>
+        <translation> – معالجة دفعية</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>التقدم</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>استئناف</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H1&gt;يرجى الانتظار…&lt;/H1&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>CRPNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين:</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى:</translation>
     </message>
     <message>
         <source>Buttom:</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل:</translation>
     </message>
 </context>
 <context>
     <name>Creator</name>
     <message>
         <source>Show one photo</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض صورة واحدة</translation>
     </message>
 </context>
 <context>
     <name>CreatorDropArea</name>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>انقر لفتح الصور</translation>
     </message>
     <message>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;أفلت الصور هنا&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الصور</translation>
     </message>
 </context>
 <context>
     <name>DirectionsWidget</name>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليسار</translation>
     </message>
     <message>
         <source>Top middle</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى الوسط</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>أعلى اليمين</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليسار</translation>
     </message>
     <message>
         <source>Bottom middle</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل الوسط</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>أسفل اليمين</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>وسط اليسار</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>الوسط</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>وسط اليمين</translation>
     </message>
 </context>
 <context>
     <name>FRMNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون:</translation>
     </message>
 </context>
 <context>
     <name>FavoritesDeleteDlg</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء(&amp;C)</translation>
     </message>
     <message>
         <source>Delete the flow</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف سلسلة العمليات</translation>
     </message>
     <message>
         <source>Flows</source>
-        <translation type="unfinished"></translation>
+        <translation>سلاسل العمليات</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>FlowPanel</name>
     <message>
         <source>Remove selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة العملية المحددة</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>العمليات</translation>
     </message>
     <message>
         <source>Add node</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة عملية</translation>
     </message>
     <message>
         <source>Save the resulted photos to the separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ الصور الناتجة في مجلد منفصل</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>HSTNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>يمين:</translation>
     </message>
 </context>
 <context>
     <name>IconWidget</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>الصور</translation>
     </message>
 </context>
 <context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>قلب أفقي</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>قلب رأسي</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
 </context>
 <context>
     <name>RGBNode</name>
     <message>
         <source>Red&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>أحمر&lt;-&gt;أزرق</translation>
     </message>
     <message>
         <source>Red&lt;-&gt;Green</source>
-        <translation type="unfinished"></translation>
+        <translation>أحمر&lt;-&gt;أخضر</translation>
     </message>
     <message>
         <source>Green&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>أخضر&lt;-&gt;أزرق</translation>
     </message>
 </context>
 <context>
     <name>RSZNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>العرض:</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>الارتفاع:</translation>
     </message>
     <message>
         <source>Percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>نسبة مئوية</translation>
     </message>
     <message>
         <source>Maximum Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>الحد الأقصى بالبكسل</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>بكسل</translation>
     </message>
     <message>
         <source>Scale by:</source>
-        <translation type="unfinished"></translation>
+        <translation>التحجيم حسب:</translation>
     </message>
 </context>
 <context>
     <name>RTTNode</name>
     <message>
         <source>Rotate right</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير لليمين</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>تدوير لليسار</translation>
     </message>
 </context>
 <context>
     <name>StepButtons</name>
     <message>
         <source>Next photo</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة التالية</translation>
     </message>
     <message>
         <source>Previous photo</source>
-        <translation type="unfinished"></translation>
+        <translation>الصورة السابقة</translation>
     </message>
 </context>
 <context>
     <name>UCSNode</name>
     <message>
         <source>Radius:</source>
-        <translation type="unfinished"></translation>
+        <translation>نصف القطر:</translation>
     </message>
     <message>
         <source>Opacity:</source>
-        <translation type="unfinished"></translation>
+        <translation>العتامة:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون:</translation>
     </message>
 </context>
 <context>
     <name>WMRNode</name>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>الحجم:</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>الشفافية:</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>غامق</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>مائل</translation>
     </message>
     <message>
         <source>Underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>مسطر</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>لون النص</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>الخلفية</translation>
     </message>
     <message>
         <source>Draw the background</source>
-        <translation type="unfinished"></translation>
+        <translation>رسم الخلفية</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>نص</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>صورة</translation>
     </message>
     <message>
         <source>Open the watermark file</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح ملف العلامة المائية</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>تمديد</translation>
     </message>
     <message>
         <source>Horizontal offset</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة الأفقية</translation>
     </message>
     <message>
         <source>Vertical offset</source>
-        <translation type="unfinished"></translation>
+        <translation>الإزاحة الرأسية</translation>
     </message>
     <message>
         <source>x:</source>
-        <translation type="unfinished"></translation>
+        <translation>س:</translation>
     </message>
     <message>
         <source>y:</source>
-        <translation type="unfinished"></translation>
+        <translation>ص:</translation>
     </message>
     <message>
         <source>Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع:</translation>
     </message>
     <message>
         <source>Logo:</source>
-        <translation type="unfinished"></translation>
+        <translation>الشعار:</translation>
     </message>
     <message>
         <source>Expand:</source>
-        <translation type="unfinished"></translation>
+        <translation>تمديد:</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>النص:</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>الخط:</translation>
     </message>
     <message>
         <source>Text color:</source>
-        <translation type="unfinished"></translation>
+        <translation>لون النص:</translation>
     </message>
     <message>
         <source>Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>الخلفية:</translation>
     </message>
     <message>
         <source>Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع:</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>تحذير</translation>
     </message>
     <message>
         <source>Can not open the image file:</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذر فتح ملف الصورة:</translation>
     </message>
 </context>
 </TS>

@@ -5,27 +5,27 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>Open Destination Folder When Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Zielordner nach Abschluss öffnen</translation>
     </message>
     <message>
         <source>Quiality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität:</translation>
     </message>
     <message>
         <source> Settings</source>
-        <translation type="unfinished"></translation>
+        <translation> Einstellungen</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Format:</translation>
     </message>
     <message>
         <source>Output Format</source>
@@ -33,438 +33,438 @@
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungerade</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerade</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>New Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Name:</translation>
     </message>
     <message>
         <source>Numbers:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummern:</translation>
     </message>
 </context>
 <context>
     <name>BCSNode</name>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit:</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast:</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung:</translation>
     </message>
 </context>
 <context>
     <name>BINNode</name>
     <message>
         <source>Threshold:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwellwert:</translation>
     </message>
 </context>
 <context>
     <name>BLRNode</name>
     <message>
         <source>Blur:</source>
-        <translation type="unfinished"></translation>
+        <translation>Weichzeichnen:</translation>
     </message>
 </context>
 <context>
     <name>BatchDialog</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source> Batch Process</source>
-        <translation type="unfinished"></translation>
+        <translation> Stapelverarbeitung</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortsetzen</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H1&gt;Bitte warten …&lt;/H1&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>CRPNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Links:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts:</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben:</translation>
     </message>
     <message>
         <source>Buttom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten:</translation>
     </message>
 </context>
 <context>
     <name>Creator</name>
     <message>
         <source>Show one photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Foto zeigen</translation>
     </message>
 </context>
 <context>
     <name>CreatorDropArea</name>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;Fotos hier ablegen&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos öffnen</translation>
     </message>
 </context>
 <context>
     <name>DirectionsWidget</name>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Top middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben Mitte</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Bottom middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten Mitte</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte links</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte rechts</translation>
     </message>
 </context>
 <context>
     <name>FRMNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe:</translation>
     </message>
 </context>
 <context>
     <name>FavoritesDeleteDlg</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>Delete the flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Ablauf löschen</translation>
     </message>
     <message>
         <source>Flows</source>
-        <translation type="unfinished"></translation>
+        <translation>Abläufe</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
 </context>
 <context>
     <name>FlowPanel</name>
     <message>
         <source>Remove selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewählten Schritt entfernen</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Schritte</translation>
     </message>
     <message>
         <source>Add node</source>
-        <translation>Operation hinzufügen</translation>
+        <translation>Schritt hinzufügen</translation>
     </message>
     <message>
         <source>Save the resulted photos to the separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse in einem eigenen Ordner speichern</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leeren</translation>
     </message>
 </context>
 <context>
     <name>HSTNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Links:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts:</translation>
     </message>
 </context>
 <context>
     <name>IconWidget</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
 </context>
 <context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal spiegeln</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikal spiegeln</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>
     <name>RGBNode</name>
     <message>
         <source>Red&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot&lt;-&gt;Blau</translation>
     </message>
     <message>
         <source>Red&lt;-&gt;Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Rot&lt;-&gt;Grün</translation>
     </message>
     <message>
         <source>Green&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Grün&lt;-&gt;Blau</translation>
     </message>
 </context>
 <context>
     <name>RSZNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite:</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Höhe:</translation>
     </message>
     <message>
         <source>Percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozent</translation>
     </message>
     <message>
         <source>Maximum Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstmaß in Pixeln</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixel</translation>
     </message>
     <message>
         <source>Scale by:</source>
-        <translation type="unfinished"></translation>
+        <translation>Skalieren nach:</translation>
     </message>
 </context>
 <context>
     <name>RTTNode</name>
     <message>
         <source>Rotate right</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach rechts drehen</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach links drehen</translation>
     </message>
 </context>
 <context>
     <name>StepButtons</name>
     <message>
         <source>Next photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächstes Foto</translation>
     </message>
     <message>
         <source>Previous photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriges Foto</translation>
     </message>
 </context>
 <context>
     <name>UCSNode</name>
     <message>
         <source>Radius:</source>
-        <translation type="unfinished"></translation>
+        <translation>Radius:</translation>
     </message>
     <message>
         <source>Opacity:</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe:</translation>
     </message>
 </context>
 <context>
     <name>WMRNode</name>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe:</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparenz:</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Fett</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Kursiv</translation>
     </message>
     <message>
         <source>Underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterstrichen</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund</translation>
     </message>
     <message>
         <source>Draw the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund zeichnen</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Open the watermark file</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen-Datei öffnen</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecken</translation>
     </message>
     <message>
         <source>Horizontal offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontaler Versatz</translation>
     </message>
     <message>
         <source>Vertical offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertikaler Versatz</translation>
     </message>
     <message>
         <source>x:</source>
-        <translation type="unfinished"></translation>
+        <translation>x:</translation>
     </message>
     <message>
         <source>y:</source>
-        <translation type="unfinished"></translation>
+        <translation>y:</translation>
     </message>
     <message>
         <source>Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>Art:</translation>
     </message>
     <message>
         <source>Logo:</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo:</translation>
     </message>
     <message>
         <source>Expand:</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecken:</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>Text:</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>Schrift:</translation>
     </message>
     <message>
         <source>Text color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Textfarbe:</translation>
     </message>
     <message>
         <source>Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrund:</translation>
     </message>
     <message>
         <source>Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Position:</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung</translation>
     </message>
     <message>
         <source>Can not open the image file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bilddatei lässt sich nicht öffnen:</translation>
     </message>
 </context>
 </TS>

@@ -5,466 +5,466 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>Open Destination Folder When Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la carpeta de destino al terminar</translation>
     </message>
     <message>
         <source>Quiality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad:</translation>
     </message>
     <message>
         <source> Settings</source>
-        <translation type="unfinished"></translation>
+        <translation> – Ajustes</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato:</translation>
     </message>
     <message>
         <source>Output Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de salida</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>Impares</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>Pares</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar</translation>
     </message>
     <message>
         <source>New Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre nuevo:</translation>
     </message>
     <message>
         <source>Numbers:</source>
-        <translation type="unfinished"></translation>
+        <translation>Números:</translation>
     </message>
 </context>
 <context>
     <name>BCSNode</name>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Brillo:</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste:</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación:</translation>
     </message>
 </context>
 <context>
     <name>BINNode</name>
     <message>
         <source>Threshold:</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbral:</translation>
     </message>
 </context>
 <context>
     <name>BLRNode</name>
     <message>
         <source>Blur:</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenfoque:</translation>
     </message>
 </context>
 <context>
     <name>BatchDialog</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener</translation>
     </message>
     <message>
         <source> Batch Process</source>
-        <translation type="unfinished"></translation>
+        <translation> – Proceso por lotes</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanudar</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H1&gt;Espere, por favor…&lt;/H1&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>CRPNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha:</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba:</translation>
     </message>
     <message>
         <source>Buttom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo:</translation>
     </message>
 </context>
 <context>
     <name>Creator</name>
     <message>
         <source>Show one photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar una sola foto</translation>
     </message>
 </context>
 <context>
     <name>CreatorDropArea</name>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic para abrir las fotos</translation>
     </message>
     <message>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;Suelte las fotos aquí&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir las fotos</translation>
     </message>
 </context>
 <context>
     <name>DirectionsWidget</name>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la izquierda</translation>
     </message>
     <message>
         <source>Top middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba en el centro</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la derecha</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la izquierda</translation>
     </message>
     <message>
         <source>Bottom middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo en el centro</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la derecha</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>En medio a la izquierda</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>En el centro</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>En medio a la derecha</translation>
     </message>
 </context>
 <context>
     <name>FRMNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Color:</translation>
     </message>
 </context>
 <context>
     <name>FavoritesDeleteDlg</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>Delete the flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el flujo</translation>
     </message>
     <message>
         <source>Flows</source>
-        <translation type="unfinished"></translation>
+        <translation>Flujos</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eliminar</translation>
     </message>
 </context>
 <context>
     <name>FlowPanel</name>
     <message>
         <source>Remove selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la operación seleccionada</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Operaciones</translation>
     </message>
     <message>
         <source>Add node</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una operación</translation>
     </message>
     <message>
         <source>Save the resulted photos to the separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar las fotos resultantes en una carpeta aparte</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vaciar</translation>
     </message>
 </context>
 <context>
     <name>HSTNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha:</translation>
     </message>
 </context>
 <context>
     <name>IconWidget</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
 </context>
 <context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Reflejar en horizontal</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Reflejar en vertical</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
 </context>
 <context>
     <name>RGBNode</name>
     <message>
         <source>Red&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo&lt;-&gt;Azul</translation>
     </message>
     <message>
         <source>Red&lt;-&gt;Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo&lt;-&gt;Verde</translation>
     </message>
     <message>
         <source>Green&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde&lt;-&gt;Azul</translation>
     </message>
 </context>
 <context>
     <name>RSZNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura:</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura:</translation>
     </message>
     <message>
         <source>Percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje</translation>
     </message>
     <message>
         <source>Maximum Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo en píxeles</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Píxeles</translation>
     </message>
     <message>
         <source>Scale by:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escalar por:</translation>
     </message>
 </context>
 <context>
     <name>RTTNode</name>
     <message>
         <source>Rotate right</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar a la derecha</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar a la izquierda</translation>
     </message>
 </context>
 <context>
     <name>StepButtons</name>
     <message>
         <source>Next photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto siguiente</translation>
     </message>
     <message>
         <source>Previous photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto anterior</translation>
     </message>
 </context>
 <context>
     <name>UCSNode</name>
     <message>
         <source>Radius:</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio:</translation>
     </message>
     <message>
         <source>Opacity:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidad:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Color:</translation>
     </message>
 </context>
 <context>
     <name>WMRNode</name>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño:</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparencia:</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Negrita</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursiva</translation>
     </message>
     <message>
         <source>Underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>Subrayado</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del texto</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>Draw the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar el fondo</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Open the watermark file</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el archivo de la marca de agua</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>Expandir</translation>
     </message>
     <message>
         <source>Horizontal offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento horizontal</translation>
     </message>
     <message>
         <source>Vertical offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento vertical</translation>
     </message>
     <message>
         <source>x:</source>
-        <translation type="unfinished"></translation>
+        <translation>x:</translation>
     </message>
     <message>
         <source>y:</source>
-        <translation type="unfinished"></translation>
+        <translation>y:</translation>
     </message>
     <message>
         <source>Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo:</translation>
     </message>
     <message>
         <source>Logo:</source>
-        <translation type="unfinished"></translation>
+        <translation>Logotipo:</translation>
     </message>
     <message>
         <source>Expand:</source>
-        <translation type="unfinished"></translation>
+        <translation>Expandir:</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto:</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente:</translation>
     </message>
     <message>
         <source>Text color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del texto:</translation>
     </message>
     <message>
         <source>Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo:</translation>
     </message>
     <message>
         <source>Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición:</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia</translation>
     </message>
     <message>
         <source>Can not open the image file:</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir el archivo de imagen:</translation>
     </message>
 </context>
 </TS>

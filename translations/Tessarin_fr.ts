@@ -5,466 +5,466 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>Open Destination Folder When Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier de destination à la fin</translation>
     </message>
     <message>
         <source>Quiality:</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité :</translation>
     </message>
     <message>
         <source> Settings</source>
-        <translation type="unfinished"></translation>
+        <translation> – Réglages</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Format :</translation>
     </message>
     <message>
         <source>Output Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de sortie</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>Impairs</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>Pairs</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>New Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau nom :</translation>
     </message>
     <message>
         <source>Numbers:</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéros :</translation>
     </message>
 </context>
 <context>
     <name>BCSNode</name>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité :</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste :</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturation :</translation>
     </message>
 </context>
 <context>
     <name>BINNode</name>
     <message>
         <source>Threshold:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuil :</translation>
     </message>
 </context>
 <context>
     <name>BLRNode</name>
     <message>
         <source>Blur:</source>
-        <translation type="unfinished"></translation>
+        <translation>Flou :</translation>
     </message>
 </context>
 <context>
     <name>BatchDialog</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source> Batch Process</source>
-        <translation type="unfinished"></translation>
+        <translation> – Traitement par lots</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H1&gt;Veuillez patienter…&lt;/H1&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>CRPNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche :</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite :</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut :</translation>
     </message>
     <message>
         <source>Buttom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bas :</translation>
     </message>
 </context>
 <context>
     <name>Creator</name>
     <message>
         <source>Show one photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher une seule photo</translation>
     </message>
 </context>
 <context>
     <name>CreatorDropArea</name>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquer pour ouvrir des photos</translation>
     </message>
     <message>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;Déposez les photos ici&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les photos</translation>
     </message>
 </context>
 <context>
     <name>DirectionsWidget</name>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à gauche</translation>
     </message>
     <message>
         <source>Top middle</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut au milieu</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à droite</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à gauche</translation>
     </message>
     <message>
         <source>Bottom middle</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas au milieu</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à droite</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>Au milieu à gauche</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Au milieu</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>Au milieu à droite</translation>
     </message>
 </context>
 <context>
     <name>FRMNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur :</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur :</translation>
     </message>
 </context>
 <context>
     <name>FavoritesDeleteDlg</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>Delete the flow</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la séquence</translation>
     </message>
     <message>
         <source>Flows</source>
-        <translation type="unfinished"></translation>
+        <translation>Séquences</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
 </context>
 <context>
     <name>FlowPanel</name>
     <message>
         <source>Remove selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer l’opération sélectionnée</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>Opérations</translation>
     </message>
     <message>
         <source>Add node</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une opération</translation>
     </message>
     <message>
         <source>Save the resulted photos to the separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les photos traitées dans un dossier à part</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vider</translation>
     </message>
 </context>
 <context>
     <name>HSTNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche :</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite :</translation>
     </message>
 </context>
 <context>
     <name>IconWidget</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos</translation>
     </message>
 </context>
 <context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Miroir horizontal</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Miroir vertical</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
 </context>
 <context>
     <name>RGBNode</name>
     <message>
         <source>Red&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge&lt;-&gt;Bleu</translation>
     </message>
     <message>
         <source>Red&lt;-&gt;Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Rouge&lt;-&gt;Vert</translation>
     </message>
     <message>
         <source>Green&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Vert&lt;-&gt;Bleu</translation>
     </message>
 </context>
 <context>
     <name>RSZNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur :</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur :</translation>
     </message>
     <message>
         <source>Percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage</translation>
     </message>
     <message>
         <source>Maximum Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum en pixels</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixels</translation>
     </message>
     <message>
         <source>Scale by:</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle :</translation>
     </message>
 </context>
 <context>
     <name>RTTNode</name>
     <message>
         <source>Rotate right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pivoter à droite</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>Pivoter à gauche</translation>
     </message>
 </context>
 <context>
     <name>StepButtons</name>
     <message>
         <source>Next photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo suivante</translation>
     </message>
     <message>
         <source>Previous photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo précédente</translation>
     </message>
 </context>
 <context>
     <name>UCSNode</name>
     <message>
         <source>Radius:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rayon :</translation>
     </message>
     <message>
         <source>Opacity:</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité :</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur :</translation>
     </message>
 </context>
 <context>
     <name>WMRNode</name>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille :</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparence :</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Gras</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Italique</translation>
     </message>
     <message>
         <source>Underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>Souligné</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du texte</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrière-plan</translation>
     </message>
     <message>
         <source>Draw the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner l’arrière-plan</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Open the watermark file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le fichier du filigrane</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>Étendre</translation>
     </message>
     <message>
         <source>Horizontal offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage horizontal</translation>
     </message>
     <message>
         <source>Vertical offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage vertical</translation>
     </message>
     <message>
         <source>x:</source>
-        <translation type="unfinished"></translation>
+        <translation>x :</translation>
     </message>
     <message>
         <source>y:</source>
-        <translation type="unfinished"></translation>
+        <translation>y :</translation>
     </message>
     <message>
         <source>Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>Type :</translation>
     </message>
     <message>
         <source>Logo:</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo :</translation>
     </message>
     <message>
         <source>Expand:</source>
-        <translation type="unfinished"></translation>
+        <translation>Étendre :</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte :</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>Police :</translation>
     </message>
     <message>
         <source>Text color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du texte :</translation>
     </message>
     <message>
         <source>Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrière-plan :</translation>
     </message>
     <message>
         <source>Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Position :</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissement</translation>
     </message>
     <message>
         <source>Can not open the image file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le fichier image :</translation>
     </message>
 </context>
 </TS>

@@ -5,466 +5,466 @@
     <name>AppSettingsDialog</name>
     <message>
         <source>Open Destination Folder When Done</source>
-        <translation type="unfinished"></translation>
+        <translation>पूरा होने पर गंतव्य फ़ोल्डर खोलें</translation>
     </message>
     <message>
         <source>Quiality:</source>
-        <translation type="unfinished"></translation>
+        <translation>गुणवत्ता:</translation>
     </message>
     <message>
         <source> Settings</source>
-        <translation type="unfinished"></translation>
+        <translation> – सेटिंग</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>ठीक है</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>रद्द करें</translation>
     </message>
     <message>
         <source>Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ॉर्मेट:</translation>
     </message>
     <message>
         <source>Output Format</source>
-        <translation type="unfinished"></translation>
+        <translation>आउटपुट फ़ॉर्मेट</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>सभी</translation>
     </message>
     <message>
         <source>Odd</source>
-        <translation type="unfinished"></translation>
+        <translation>विषम</translation>
     </message>
     <message>
         <source>Even</source>
-        <translation type="unfinished"></translation>
+        <translation>सम</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>नाम बदलें</translation>
     </message>
     <message>
         <source>New Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>नया नाम:</translation>
     </message>
     <message>
         <source>Numbers:</source>
-        <translation type="unfinished"></translation>
+        <translation>संख्याएँ:</translation>
     </message>
 </context>
 <context>
     <name>BCSNode</name>
     <message>
         <source>Brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>चमक:</translation>
     </message>
     <message>
         <source>Contrast:</source>
-        <translation type="unfinished"></translation>
+        <translation>कंट्रास्ट:</translation>
     </message>
     <message>
         <source>Saturation:</source>
-        <translation type="unfinished"></translation>
+        <translation>सैचुरेशन:</translation>
     </message>
 </context>
 <context>
     <name>BINNode</name>
     <message>
         <source>Threshold:</source>
-        <translation type="unfinished"></translation>
+        <translation>सीमा मान:</translation>
     </message>
 </context>
 <context>
     <name>BLRNode</name>
     <message>
         <source>Blur:</source>
-        <translation type="unfinished"></translation>
+        <translation>धुंधलापन:</translation>
     </message>
 </context>
 <context>
     <name>BatchDialog</name>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>रोकें</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>बंद करें</translation>
     </message>
     <message>
         <source> Batch Process</source>
-        <translation type="unfinished"></translation>
+        <translation> – बैच प्रोसेस</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>प्रगति</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>जारी रखें</translation>
     </message>
     <message>
         <source>&lt;CENTER&gt;&lt;H1&gt;Please, wait...&lt;/H1&gt;&lt;/CENTER&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;CENTER&gt;&lt;H1&gt;कृपया प्रतीक्षा करें…&lt;/H1&gt;&lt;/CENTER&gt;</translation>
     </message>
 </context>
 <context>
     <name>CRPNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>बाएँ:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>दाएँ:</translation>
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>ऊपर:</translation>
     </message>
     <message>
         <source>Buttom:</source>
-        <translation type="unfinished"></translation>
+        <translation>नीचे:</translation>
     </message>
 </context>
 <context>
     <name>Creator</name>
     <message>
         <source>Show one photo</source>
-        <translation type="unfinished"></translation>
+        <translation>एक फ़ोटो दिखाएँ</translation>
     </message>
 </context>
 <context>
     <name>CreatorDropArea</name>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ोटो खोलने के लिए क्लिक करें</translation>
     </message>
     <message>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H2&gt;फ़ोटो यहाँ छोड़ें&lt;/H2&gt;</translation>
     </message>
     <message>
         <source>Open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ोटो खोलें</translation>
     </message>
 </context>
 <context>
     <name>DirectionsWidget</name>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>ऊपर बाएँ</translation>
     </message>
     <message>
         <source>Top middle</source>
-        <translation type="unfinished"></translation>
+        <translation>ऊपर बीच में</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>ऊपर दाएँ</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>नीचे बाएँ</translation>
     </message>
     <message>
         <source>Bottom middle</source>
-        <translation type="unfinished"></translation>
+        <translation>नीचे बीच में</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>नीचे दाएँ</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>बीच में बाएँ</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>बीच में</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>बीच में दाएँ</translation>
     </message>
 </context>
 <context>
     <name>FRMNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>चौड़ाई:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>रंग:</translation>
     </message>
 </context>
 <context>
     <name>FavoritesDeleteDlg</name>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>रद्द करें(&amp;C)</translation>
     </message>
     <message>
         <source>Delete the flow</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़्लो मिटाएँ</translation>
     </message>
     <message>
         <source>Flows</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़्लो</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>मिटाएँ(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>FlowPanel</name>
     <message>
         <source>Remove selected node</source>
-        <translation type="unfinished"></translation>
+        <translation>चुना गया ऑपरेशन हटाएँ</translation>
     </message>
     <message>
         <source>Operations</source>
-        <translation type="unfinished"></translation>
+        <translation>ऑपरेशन</translation>
     </message>
     <message>
         <source>Add node</source>
-        <translation type="unfinished"></translation>
+        <translation>ऑपरेशन जोड़ें</translation>
     </message>
     <message>
         <source>Save the resulted photos to the separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>तैयार फ़ोटो अलग फ़ोल्डर में सहेजें</translation>
     </message>
     <message>
         <source>&amp;Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>खाली करें(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>HSTNode</name>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>बाएँ:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>दाएँ:</translation>
     </message>
 </context>
 <context>
     <name>IconWidget</name>
     <message>
         <source>Photos</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ोटो</translation>
     </message>
 </context>
 <context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>क्षैतिज पलटें</translation>
     </message>
     <message>
         <source>Mirror vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>लंबवत पलटें</translation>
     </message>
 </context>
 <context>
     <name>MainPage</name>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>सेटिंग</translation>
     </message>
 </context>
 <context>
     <name>RGBNode</name>
     <message>
         <source>Red&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>लाल&lt;-&gt;नीला</translation>
     </message>
     <message>
         <source>Red&lt;-&gt;Green</source>
-        <translation type="unfinished"></translation>
+        <translation>लाल&lt;-&gt;हरा</translation>
     </message>
     <message>
         <source>Green&lt;-&gt;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>हरा&lt;-&gt;नीला</translation>
     </message>
 </context>
 <context>
     <name>RSZNode</name>
     <message>
         <source>Width:</source>
-        <translation type="unfinished"></translation>
+        <translation>चौड़ाई:</translation>
     </message>
     <message>
         <source>Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>ऊँचाई:</translation>
     </message>
     <message>
         <source>Percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>प्रतिशत</translation>
     </message>
     <message>
         <source>Maximum Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>अधिकतम पिक्सेल</translation>
     </message>
     <message>
         <source>Pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>पिक्सेल</translation>
     </message>
     <message>
         <source>Scale by:</source>
-        <translation type="unfinished"></translation>
+        <translation>आकार का आधार:</translation>
     </message>
 </context>
 <context>
     <name>RTTNode</name>
     <message>
         <source>Rotate right</source>
-        <translation type="unfinished"></translation>
+        <translation>दाएँ घुमाएँ</translation>
     </message>
     <message>
         <source>Rotate left</source>
-        <translation type="unfinished"></translation>
+        <translation>बाएँ घुमाएँ</translation>
     </message>
 </context>
 <context>
     <name>StepButtons</name>
     <message>
         <source>Next photo</source>
-        <translation type="unfinished"></translation>
+        <translation>अगली फ़ोटो</translation>
     </message>
     <message>
         <source>Previous photo</source>
-        <translation type="unfinished"></translation>
+        <translation>पिछली फ़ोटो</translation>
     </message>
 </context>
 <context>
     <name>UCSNode</name>
     <message>
         <source>Radius:</source>
-        <translation type="unfinished"></translation>
+        <translation>त्रिज्या:</translation>
     </message>
     <message>
         <source>Opacity:</source>
-        <translation type="unfinished"></translation>
+        <translation>अपारदर्शिता:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>रंग:</translation>
     </message>
 </context>
 <context>
     <name>WMRNode</name>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>आकार:</translation>
     </message>
     <message>
         <source>Transparency:</source>
-        <translation type="unfinished"></translation>
+        <translation>पारदर्शिता:</translation>
     </message>
     <message>
         <source>Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>बोल्ड</translation>
     </message>
     <message>
         <source>Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>इटैलिक</translation>
     </message>
     <message>
         <source>Underlined</source>
-        <translation type="unfinished"></translation>
+        <translation>रेखांकित</translation>
     </message>
     <message>
         <source>Text color</source>
-        <translation type="unfinished"></translation>
+        <translation>टेक्स्ट का रंग</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>पृष्ठभूमि</translation>
     </message>
     <message>
         <source>Draw the background</source>
-        <translation type="unfinished"></translation>
+        <translation>पृष्ठभूमि बनाएँ</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>टेक्स्ट</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>चित्र</translation>
     </message>
     <message>
         <source>Open the watermark file</source>
-        <translation type="unfinished"></translation>
+        <translation>वॉटरमार्क फ़ाइल खोलें</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>फैलाएँ</translation>
     </message>
     <message>
         <source>Horizontal offset</source>
-        <translation type="unfinished"></translation>
+        <translation>क्षैतिज ऑफ़सेट</translation>
     </message>
     <message>
         <source>Vertical offset</source>
-        <translation type="unfinished"></translation>
+        <translation>लंबवत ऑफ़सेट</translation>
     </message>
     <message>
         <source>x:</source>
-        <translation type="unfinished"></translation>
+        <translation>x:</translation>
     </message>
     <message>
         <source>y:</source>
-        <translation type="unfinished"></translation>
+        <translation>y:</translation>
     </message>
     <message>
         <source>Kind:</source>
-        <translation type="unfinished"></translation>
+        <translation>प्रकार:</translation>
     </message>
     <message>
         <source>Logo:</source>
-        <translation type="unfinished"></translation>
+        <translation>लोगो:</translation>
     </message>
     <message>
         <source>Expand:</source>
-        <translation type="unfinished"></translation>
+        <translation>फैलाएँ:</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>टेक्स्ट:</translation>
     </message>
     <message>
         <source>Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>फ़ॉन्ट:</translation>
     </message>
     <message>
         <source>Text color:</source>
-        <translation type="unfinished"></translation>
+        <translation>टेक्स्ट का रंग:</translation>
     </message>
     <message>
         <source>Background:</source>
-        <translation type="unfinished"></translation>
+        <translation>पृष्ठभूमि:</translation>
     </message>
     <message>
         <source>Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>स्थान:</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>चेतावनी</translation>
     </message>
     <message>
         <source>Can not open the image file:</source>
-        <translation type="unfinished"></translation>
+        <translation>चित्र फ़ाइल नहीं खोली जा सकी:</translation>
     </message>
 </context>
 </TS>

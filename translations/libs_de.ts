@@ -5,26 +5,26 @@
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H3&gt;Dieses Programm verwendet:&lt;/H3&gt;</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::AppMenu</name>
     <message>
         <source>Rate this App</source>
-        <translation type="unfinished"></translation>
+        <translation>App bewerten</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Apps</translation>
     </message>
     <message>
         <source>Contacts Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontakt</translation>
     </message>
     <message>
         <source>Support Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Support-Seite</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -35,110 +35,110 @@
     <name>QMWidgets::ColorWidgetPopup</name>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe %1</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;H1&gt;Fotos hier ablegen&lt;/H1&gt;</translation>
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken, um Fotos zu öffnen</translation>
     </message>
     <message>
         <source>Open the photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos öffnen</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::InputDialog</name>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MMessageBox</name>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>Abort</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorieren</translation>
     </message>
     <message>
         <source>YesAll</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja, alle</translation>
     </message>
     <message>
         <source>NoAll</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein, keine</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::MovieLabel</name>
     <message>
         <source>Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::PromoMenuBar</name>
     <message>
         <source>Introduction</source>
-        <translation type="unfinished"></translation>
+        <translation>Einführung</translation>
     </message>
     <message>
         <source>More</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehr</translation>
     </message>
     <message>
         <source>Rate App</source>
-        <translation type="unfinished"></translation>
+        <translation>App bewerten</translation>
     </message>
     <message>
         <source>More Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Apps</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Teilen</translation>
     </message>
     <message>
         <source>Join Us</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgen Sie uns</translation>
     </message>
     <message>
         <source>App Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmmenü</translation>
     </message>
 </context>
 </TS>

@@ -17,10 +17,14 @@ namespace
 
 const QString kFolder = QStringLiteral(TESSARIN_TRANSLATIONS_FOLDER);
 
+const QRegularExpression::PatternOptions kUnicode =
+    QRegularExpression::UseUnicodePropertiesOption;
+
 QStringList found(const QString& text, const QString& pattern)
 {
     QStringList matches;
-    for (auto all = QRegularExpression(pattern).globalMatch(text); all.hasNext();) {
+    auto all = QRegularExpression(pattern, kUnicode).globalMatch(text);
+    while (all.hasNext()) {
         matches += all.next().captured();
     }
     matches.sort();
@@ -152,7 +156,7 @@ private slots:
         QVERIFY(speaks("AppSettingsDialog", "Output Format"));
         // The toolkit has not learnt Hindi, and its files are not on every machine.
         if (QFile::exists(QStringLiteral(":/Translations/qt_%1.qm").arg(code))) {
-            QVERIFY(speaks("QShortcut", "Space") || speaks("QFileDialog", "Show Details"));
+            QVERIFY(speaks("QFileDialog", "Recent Places"));
         }
     }
 

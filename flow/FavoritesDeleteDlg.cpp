@@ -1,6 +1,7 @@
 #include "flow/FavoritesDeleteDlg.h"
 
 #include <QMWidgets/ButtonRow.h>
+#include <QMWidgets/FollowLanguage.h>
 
 #include <QBoxLayout>
 #include <QListWidget>
@@ -9,9 +10,9 @@
 namespace
 {
 
-QPushButton* makeButton(const QString& text, const QString& objectName, QWidget* parent)
+QPushButton* makeButton(const QString& objectName, QWidget* parent)
 {
-    auto* button = new QPushButton(text, parent);
+    auto* button = new QPushButton(parent);
     button->setFlat(true);
     button->setObjectName(objectName);
     button->setFixedHeight(32);
@@ -23,14 +24,18 @@ QPushButton* makeButton(const QString& text, const QString& objectName, QWidget*
 FavoritesDeleteDlg::FavoritesDeleteDlg(QWidget* parent)
     : QDialog(parent),
       m_list(new QListWidget(this)),
-      m_cancelButton(makeButton(tr("&Cancel"), QStringLiteral("PushButton"), this))
+      m_cancelButton(makeButton(QStringLiteral("PushButton"), this))
 {
-    setWindowTitle(tr("Delete the flow"));
     setObjectName(QStringLiteral("Dialog"));
     setMinimumSize(400, 300);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setAccessibleName(tr("Flows"));
-    auto* deleteButton = makeButton(tr("&Delete"), QStringLiteral("DeleteButton"), this);
+    auto* deleteButton = makeButton(QStringLiteral("DeleteButton"), this);
+    QMWidgets::followLanguage(this, [this, deleteButton] {
+        setWindowTitle(tr("Delete the flow"));
+        m_list->setAccessibleName(tr("Flows"));
+        m_cancelButton->setText(tr("&Cancel"));
+        deleteButton->setText(tr("&Delete"));
+    });
     connect(m_cancelButton, &QPushButton::clicked, this, &FavoritesDeleteDlg::reject);
     connect(deleteButton, &QPushButton::clicked, this, &FavoritesDeleteDlg::accept);
 

@@ -7,6 +7,7 @@
 #include "flow/Operations.h"
 #include "flow/TabLabel.h"
 #include <QMWidgets/App.h>
+#include <QMWidgets/FollowLanguage.h>
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -28,14 +29,17 @@ QPushButton* makeButton(const QString& caption, const QString& objectName, QWidg
 }
 
 /// A round button whose caption is a sign: its tool tip names it.
-QPushButton* makeRoundButton(const QString& sign, const QString& objectName, const QString& toolTip,
-                             QWidget* parent)
+QPushButton* makeRoundButton(const QString& sign, const QString& objectName, QWidget* parent)
 {
     QPushButton* const button = makeButton(sign, objectName, parent);
     button->setFixedSize(40, 40);
-    button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip);
     return button;
+}
+
+void nameByToolTip(QWidget* widget, const QString& toolTip)
+{
+    widget->setToolTip(toolTip);
+    widget->setAccessibleName(toolTip);
 }
 
 } // namespace
@@ -44,8 +48,8 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     : QFrame(parent),
       m_optionsPanel(optionsPanel),
       m_tabBar(new NodesTabBar(this)),
-      m_removeButton(makeRoundButton(QStringLiteral("-"), QStringLiteral("PushButtonRemove"),
-                                     tr("Remove selected node"), this)),
+      m_removeButton(
+          makeRoundButton(QStringLiteral("-"), QStringLiteral("PushButtonRemove"), this)),
       m_deleteDialog(new FavoritesDeleteDlg(nullptr))
 {
     setObjectName(QStringLiteral("FlowPanel"));
@@ -54,14 +58,12 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     m_tabBar->setMovable(true);
     m_tabBar->setUsesScrollButtons(true);
     m_tabBar->setMinimumHeight(70);
-    m_tabBar->setAccessibleName(tr("Operations"));
     connect(m_tabBar, &NodesTabBar::tabClicked, this, &FlowPanel::slotTabClicked);
     connect(m_tabBar, &NodesTabBar::countChanged, this, &FlowPanel::slotNodesCountChanged);
     connect(m_tabBar, &NodesTabBar::tabMoved, this, &FlowPanel::slotTabMoved);
     connect(m_tabBar, &NodesTabBar::tabsDragged, this, &FlowPanel::slotTabsDragged);
 
-    auto* addButton =
-        makeRoundButton(QStringLiteral("+"), QStringLiteral("PushButtonAdd"), tr("Add node"), this);
+    auto* addButton = makeRoundButton(QStringLiteral("+"), QStringLiteral("PushButtonAdd"), this);
     addButton->setMenu(makeAddMenu(addButton));
     connect(m_removeButton, &QPushButton::clicked, this, &FlowPanel::slotRemoveNode);
 
@@ -69,14 +71,19 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     flowsButton->setFixedHeight(40);
     m_favoritesMenu = new QMenu(flowsButton);
     m_favoritesMenu->setObjectName(QStringLiteral("FavoritesMenu"));
-    rebuildFavoritesMenu();
     flowsButton->setMenu(m_favoritesMenu);
 
     auto* runButton = new QPushButton(QStringLiteral("Save Results"), this);
     runButton->setObjectName(QStringLiteral("RunBatchButton"));
-    runButton->setToolTip(tr("Save the resulted photos to the separate folder"));
     connect(runButton, &QPushButton::clicked, this, &FlowPanel::slotRunBatch);
 
+    QMWidgets::followLanguage(this, [=] {
+        m_tabBar->setAccessibleName(tr("Operations"));
+        nameByToolTip(addButton, tr("Add node"));
+        nameByToolTip(m_removeButton, tr("Remove selected node"));
+        runButton->setToolTip(tr("Save the resulted photos to the separate folder"));
+        rebuildFavoritesMenu();
+    });
     layOut(addButton, flowsButton, runButton);
     slotNodesCountChanged(0);
 }

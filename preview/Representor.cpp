@@ -6,6 +6,7 @@
 #include "intake/CommonData.h"
 #include "preview/ImagePreview.h"
 #include "preview/ImageViewDialog.h"
+#include <QMWidgets/FollowLanguage.h>
 
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -51,7 +52,8 @@ Representor::Representor(NodesOptionsPanel* optionsPanel, QWidget* parent)
 
     auto* previewButton = new QPushButton(this);
     previewButton->setObjectName(QStringLiteral("PreviewButton"));
-    previewButton->setAccessibleName(tr("Large view"));
+    QMWidgets::followLanguage(
+        previewButton, [previewButton] { previewButton->setAccessibleName(tr("Large view")); });
     previewButton->setFlat(true);
     connect(previewButton, &QPushButton::clicked, this, &Representor::slotPreview);
 

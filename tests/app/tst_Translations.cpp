@@ -17,8 +17,7 @@ namespace
 
 const QString kFolder = QStringLiteral(TESSARIN_TRANSLATIONS_FOLDER);
 
-const QRegularExpression::PatternOptions kUnicode =
-    QRegularExpression::UseUnicodePropertiesOption;
+const QRegularExpression::PatternOptions kUnicode = QRegularExpression::UseUnicodePropertiesOption;
 
 QStringList found(const QString& text, const QString& pattern)
 {

@@ -1,5 +1,6 @@
 #include "ImageArea.h"
 
+#include "FollowLanguage.h"
 #include "StepButtons.h"
 
 #include <QHBoxLayout>
@@ -53,7 +54,7 @@ ImageArea::ImageArea(QWidget* parent)
 
     m_loadingMovie.setScaledSize(QSize(kMovieSize, kMovieSize));
     m_loadingLabel->setObjectName(QStringLiteral("ImageLoadingLabel"));
-    m_loadingLabel->setAccessibleName(tr("Loading"));
+    followLanguage(m_loadingLabel, [this] { m_loadingLabel->setAccessibleName(tr("Loading")); });
     m_loadingLabel->setMovie(&m_loadingMovie);
     m_loadingLabel->setAlignment(Qt::AlignCenter);
     m_loadingLabel->setFixedSize(kLoadingSize, kLoadingSize);

@@ -1,6 +1,7 @@
 #include "ImageViewer.h"
 
 #include "App.h"
+#include "FollowLanguage.h"
 #include "ImageArea.h"
 
 #include <QDesktopServices>
@@ -35,7 +36,7 @@ ImageViewer::ImageViewer(QWidget* parent)
       m_area(new ImageArea(this)),
       m_slider(new QSlider(Qt::Horizontal, this)),
       m_fitButton(new QPushButton(this)),
-      m_actualPixelsButton(new QPushButton(tr("Actual Pixels"), this))
+      m_actualPixelsButton(new QPushButton(this))
 {
     setMinimumHeight(400);
     connect(m_area, &ImageArea::next, this, &ImageViewer::next);
@@ -49,7 +50,6 @@ ImageViewer::ImageViewer(QWidget* parent)
 void ImageViewer::makeSlider()
 {
     m_slider->setObjectName(QStringLiteral("ImageViewSlider"));
-    m_slider->setAccessibleName(tr("Zoom"));
     m_slider->setMinimumWidth(200);
     m_slider->setRange(kLeastZoom, kFullZoom);
     m_slider->setValue(kFullZoom);
@@ -62,26 +62,22 @@ void ImageViewer::makeSlider()
 void ImageViewer::makeViewButtons()
 {
     m_fitButton->setObjectName(QStringLiteral("FitToScreenButton"));
-    m_fitButton->setToolTip(tr("Fit To Window"));
-    m_fitButton->setAccessibleName(tr("Fit To Window"));
     m_fitButton->setCheckable(true);
     m_fitButton->setFlat(true);
     m_fitButton->setChecked(true);
     connect(m_fitButton, &QPushButton::clicked, this, &ImageViewer::slotFitScreen);
 
     m_actualPixelsButton->setObjectName(QStringLiteral("ActualPixelsButton"));
-    m_actualPixelsButton->setToolTip(tr("100%"));
     m_actualPixelsButton->setFixedHeight(kButtonHeight);
     m_actualPixelsButton->setCheckable(true);
     m_actualPixelsButton->setFlat(true);
     connect(m_actualPixelsButton, &QPushButton::clicked, this, &ImageViewer::slotActualPixels);
 }
 
-QPushButton* ImageViewer::makeStepButton(const QString& objectName, const QString& accessibleName)
+QPushButton* ImageViewer::makeStepButton(const QString& objectName)
 {
     auto* button = new QPushButton(this);
     button->setObjectName(objectName);
-    button->setAccessibleName(accessibleName);
     button->setFlat(true);
     button->setFixedSize(44, 44);
     return button;
@@ -89,7 +85,7 @@ QPushButton* ImageViewer::makeStepButton(const QString& objectName, const QStrin
 
 void ImageViewer::layOut()
 {
-    auto* sysPreviewButton = new QPushButton(tr("Open with Preview"), this);
+    auto* sysPreviewButton = new QPushButton(this);
     sysPreviewButton->setObjectName(QStringLiteral("SysPreviewButton"));
     sysPreviewButton->setFixedHeight(kButtonHeight);
     sysPreviewButton->setFlat(true);
@@ -97,12 +93,21 @@ void ImageViewer::layOut()
 
     // Deliberate: these two names are crossed, and so are the pictures of the style sheet. What
     // the user sees, the minus left of the slider and the plus right of it, does as it shows.
-    QPushButton* const minusButton =
-        makeStepButton(QStringLiteral("ZoomInButton"), tr("Reduce the picture"));
-    QPushButton* const plusButton =
-        makeStepButton(QStringLiteral("ZoomOutButton"), tr("Enlarge the picture"));
+    QPushButton* const minusButton = makeStepButton(QStringLiteral("ZoomInButton"));
+    QPushButton* const plusButton = makeStepButton(QStringLiteral("ZoomOutButton"));
     connect(plusButton, &QPushButton::clicked, this, &ImageViewer::slotIncZoom);
     connect(minusButton, &QPushButton::clicked, this, &ImageViewer::slotDecZoom);
+
+    followLanguage(this, [=] {
+        sysPreviewButton->setText(tr("Open with Preview"));
+        m_slider->setAccessibleName(tr("Zoom"));
+        minusButton->setAccessibleName(tr("Reduce the picture"));
+        plusButton->setAccessibleName(tr("Enlarge the picture"));
+        m_actualPixelsButton->setText(tr("Actual Pixels"));
+        m_actualPixelsButton->setToolTip(tr("100%"));
+        m_fitButton->setToolTip(tr("Fit To Window"));
+        m_fitButton->setAccessibleName(tr("Fit To Window"));
+    });
 
     auto* upper = new QHBoxLayout;
     upper->addStretch(1);

@@ -52,7 +52,7 @@ public slots:
 private:
     void makeSlider();
     void makeViewButtons();
-    QPushButton* makeStepButton(const QString& objectName, const QString& accessibleName);
+    QPushButton* makeStepButton(const QString& objectName);
     void layOut();
 
     ImageArea* m_area;

@@ -1,5 +1,7 @@
 #include "StepButtons.h"
 
+#include "FollowLanguage.h"
+
 #include <QCoreApplication>
 #include <QPushButton>
 
@@ -13,7 +15,9 @@ QPushButton* makeStepButton(const QString& objectName, const char* name, QWidget
 {
     auto* button = new QPushButton(parent);
     button->setObjectName(objectName);
-    button->setAccessibleName(QCoreApplication::translate("StepButtons", name));
+    followLanguage(button, [button, name] {
+        button->setAccessibleName(QCoreApplication::translate("StepButtons", name));
+    });
     return button;
 }
 

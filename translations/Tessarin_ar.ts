@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>مسح(&amp;C)</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>تحذير</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>حفظ…(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>حذف…(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>الانتقال إلى مجلد السلاسل(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>حفظ سلسلة العمليات</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>اسم السلسلة:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>لا يمكن إنشاء سلسلة بلا اسم</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>السلسلة المسماة &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; موجودة بالفعل.
+هل تريد استبدالها؟</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>إزالة السلسلة:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;؟</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>الصورة التالية</translation>
+        <source>Large view</source>
+        <translation>عرض كبير</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>الصورة السابقة</translation>
+        <source>Preview</source>
+        <translation>معاينة</translation>
     </message>
 </context>
 <context>

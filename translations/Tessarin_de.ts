@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>&amp;Leeren</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Speichern …</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>L&amp;öschen …</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>&amp;Ordner der Abläufe öffnen</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>Ablauf speichern</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>Name des Ablaufs:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>Ein Ablauf ohne Namen kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>Ein Ablauf mit dem Namen &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; existiert bereits.
+Überschreiben?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>Diesen Ablauf entfernen:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>Nächstes Foto</translation>
+        <source>Large view</source>
+        <translation>Große Ansicht</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>Vorheriges Foto</translation>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>

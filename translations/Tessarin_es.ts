@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>&amp;Vaciar</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Guardar…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Eliminar…</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>&amp;Abrir la carpeta de flujos</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>Guardar el flujo</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>Nombre del flujo:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>No se puede crear un flujo sin nombre</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>El flujo con el nombre &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; ya existe.
+¿Sobrescribirlo?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>Se eliminará el flujo:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;. ¿Continuar?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>Foto siguiente</translation>
+        <source>Large view</source>
+        <translation>Vista grande</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>Foto anterior</translation>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>&amp;Vider</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Enregistrer…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Supprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>&amp;Ouvrir le dossier des séquences</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>Enregistrer la séquence</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>Nom de la séquence :</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>Impossible de créer une séquence sans nom</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>La séquence nommée &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; existe déjà.
+La remplacer ?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>Supprimer la séquence :
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot; ?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>Photo suivante</translation>
+        <source>Large view</source>
+        <translation>Grande vue</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>Photo précédente</translation>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>खाली करें(&amp;C)</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>चेतावनी</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>सहेजें…(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>मिटाएँ…(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>फ़्लो का फ़ोल्डर खोलें(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>फ़्लो सहेजें</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>फ़्लो का नाम:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>बिना नाम का फ़्लो नहीं बनाया जा सकता</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>इस नाम का फ़्लो &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; पहले से मौजूद है।
+क्या उसे बदल दें?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>यह फ़्लो हटाएँ:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>अगली फ़ोटो</translation>
+        <source>Large view</source>
+        <translation>बड़ा दृश्य</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>पिछली फ़ोटो</translation>
+        <source>Preview</source>
+        <translation>पूर्वावलोकन</translation>
     </message>
 </context>
 <context>

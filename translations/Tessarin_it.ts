@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>S&amp;vuota</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Salva…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Elimina…</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>&amp;Apri la cartella delle sequenze</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>Salva la sequenza</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>Nome della sequenza:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>Impossibile creare una sequenza senza nome</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>La sequenza con il nome &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; esiste già.
+Sovrascriverla?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>Rimuovere la sequenza:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>Foto successiva</translation>
+        <source>Large view</source>
+        <translation>Vista grande</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>Foto precedente</translation>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
     </message>
 </context>
 <context>

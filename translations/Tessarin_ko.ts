@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>비우기(&amp;C)</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>저장…(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>삭제…(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>플로 폴더 열기(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>플로 저장</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>플로 이름:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>이름 없이 플로를 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>다음 이름의 플로가 있습니다: &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot;.
+덮어쓰시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>다음 플로를 제거할까요:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>다음 사진</translation>
+        <source>Large view</source>
+        <translation>크게 보기</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>이전 사진</translation>
+        <source>Preview</source>
+        <translation>미리 보기</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>&amp;Limpar</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Salvar…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Excluir…</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>&amp;Abrir a pasta dos fluxos</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>Salvar o fluxo</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>Nome do fluxo:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>Não é possível criar um fluxo sem nome</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>O fluxo com o nome &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; já existe.
+Substituir?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>Remover o fluxo:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>Próxima foto</translation>
+        <source>Large view</source>
+        <translation>Visualização grande</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>Foto anterior</translation>
+        <source>Preview</source>
+        <translation>Prévia</translation>
     </message>
 </context>
 <context>

@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>О&amp;чистить</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>&amp;Сохранить…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>&amp;Удалить…</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>&amp;Открыть папку цепочек</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>Сохранение цепочки</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>Имя цепочки:</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>Нельзя создать цепочку без имени</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>Цепочка с именем &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; уже существует.
+Перезаписать?</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>Удалить цепочку:
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;?</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>Следующее фото</translation>
+        <source>Large view</source>
+        <translation>Крупный просмотр</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>Предыдущее фото</translation>
+        <source>Preview</source>
+        <translation>Просмотр</translation>
     </message>
 </context>
 <context>

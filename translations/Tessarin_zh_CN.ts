@@ -244,6 +244,54 @@
         <source>&amp;Clear</source>
         <translation>清空(&amp;C)</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>&amp;Save...</source>
+        <translation>保存…(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete...</source>
+        <translation>删除…(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Go To Flows Location</source>
+        <translation>打开流程文件夹(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Save Flow</source>
+        <translation>保存流程</translation>
+    </message>
+    <message>
+        <source>Flow&apos;s Name:</source>
+        <translation>流程名称：</translation>
+    </message>
+    <message>
+        <source>Can not create the flow without name</source>
+        <translation>无法创建没有名称的流程</translation>
+    </message>
+    <message>
+        <source>The flow the with name &quot;</source>
+        <translation>名为 &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; already exists.
+Overwrite?</source>
+        <translation>&quot; 的流程已存在。
+是否覆盖？</translation>
+    </message>
+    <message>
+        <source>Remove the flow:
+ &quot;</source>
+        <translation>删除流程：
+ &quot;</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>&quot;？</translation>
+    </message>
 </context>
 <context>
     <name>HSTNode</name>
@@ -335,14 +383,17 @@
     </message>
 </context>
 <context>
-    <name>StepButtons</name>
+    <name>Representor</name>
     <message>
-        <source>Next photo</source>
-        <translation>下一张照片</translation>
+        <source>Large view</source>
+        <translation>大图查看</translation>
     </message>
+</context>
+<context>
+    <name>TabLabel</name>
     <message>
-        <source>Previous photo</source>
-        <translation>上一张照片</translation>
+        <source>Preview</source>
+        <translation>预览</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,41 @@
         <source>Quit</source>
         <translation>إنهاء</translation>
     </message>
+    <message>
+        <source>Check Updates</source>
+        <translation>التحقق من التحديثات</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::AppUpdateDialog</name>
+    <message>
+        <source>Check for updates on start</source>
+        <translation>التحقق من التحديثات عند البدء</translation>
+    </message>
+    <message>
+        <source> Updates Notification</source>
+        <translation> – إشعار التحديثات</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;The newer version of </source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;يتوفر إصدار أحدث من </translation>
+    </message>
+    <message>
+        <source> is available.&lt;br&gt;Go to the updates web page?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>.&lt;br&gt;هل تريد الانتقال إلى صفحة التحديثات؟&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the updates web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;أنت تستخدم أحدث إصدار متوفر.&lt;br&gt;هل تريد الانتقال إلى صفحة التحديثات على أي حال؟&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>لا</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::ColorWidgetPopup</name>
@@ -55,6 +90,48 @@
     <message>
         <source>Open the photos</source>
         <translation>فتح الصور</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageArea</name>
+    <message>
+        <source>Loading</source>
+        <translation>جارٍ التحميل</translation>
+    </message>
+    <message>
+        <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;ملاءمة النافذة&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageViewer</name>
+    <message>
+        <source>Open with Preview</source>
+        <translation>فتح في العارض</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>التكبير</translation>
+    </message>
+    <message>
+        <source>Reduce the picture</source>
+        <translation>تصغير الصورة</translation>
+    </message>
+    <message>
+        <source>Enlarge the picture</source>
+        <translation>تكبير الصورة</translation>
+    </message>
+    <message>
+        <source>Actual Pixels</source>
+        <translation>الحجم الفعلي</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>Fit To Window</source>
+        <translation>ملاءمة النافذة</translation>
     </message>
 </context>
 <context>
@@ -139,6 +216,28 @@
     <message>
         <source>App Menu</source>
         <translation>قائمة البرنامج</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::UpdateCheck</name>
+    <message>
+        <source> Updates Check Error</source>
+        <translation> – خطأ في التحقق من التحديثات</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;No internet connection is available,&lt;br&gt;please, check the firewall settings and make sure that&lt;br&gt;you are not using the the internet connection via the proxy server.&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;لا يوجد اتصال بالإنترنت،&lt;br&gt;يرجى التحقق من إعدادات جدار الحماية والتأكد من&lt;br&gt;أن الاتصال لا يمر عبر خادم وكيل.&lt;/H3&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>StepButtons</name>
+    <message>
+        <source>Next photo</source>
+        <translation>الصورة التالية</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>الصورة السابقة</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,41 @@
         <source>Quit</source>
         <translation>Beenden</translation>
     </message>
+    <message>
+        <source>Check Updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::AppUpdateDialog</name>
+    <message>
+        <source>Check for updates on start</source>
+        <translation>Beim Start nach Updates suchen</translation>
+    </message>
+    <message>
+        <source> Updates Notification</source>
+        <translation> – Update-Hinweis</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;The newer version of </source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Eine neuere Version von </translation>
+    </message>
+    <message>
+        <source> is available.&lt;br&gt;Go to the updates web page?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation> ist verfügbar.&lt;br&gt;Zur Update-Webseite gehen?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the updates web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Sie verwenden die neueste Version.&lt;br&gt;Trotzdem zur Update-Webseite gehen?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::ColorWidgetPopup</name>
@@ -55,6 +90,48 @@
     <message>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageArea</name>
+    <message>
+        <source>Loading</source>
+        <translation>Wird geladen</translation>
+    </message>
+    <message>
+        <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;An Fenster angepasst&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageViewer</name>
+    <message>
+        <source>Open with Preview</source>
+        <translation>Extern öffnen</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Reduce the picture</source>
+        <translation>Bild verkleinern</translation>
+    </message>
+    <message>
+        <source>Enlarge the picture</source>
+        <translation>Bild vergrößern</translation>
+    </message>
+    <message>
+        <source>Actual Pixels</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>Fit To Window</source>
+        <translation>An Fenster anpassen</translation>
     </message>
 </context>
 <context>
@@ -139,6 +216,28 @@
     <message>
         <source>App Menu</source>
         <translation>Programmmenü</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::UpdateCheck</name>
+    <message>
+        <source> Updates Check Error</source>
+        <translation> – Fehler bei der Update-Suche</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;No internet connection is available,&lt;br&gt;please, check the firewall settings and make sure that&lt;br&gt;you are not using the the internet connection via the proxy server.&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;Es besteht keine Internetverbindung.&lt;br&gt;Bitte prüfen Sie die Einstellungen der Firewall und stellen Sie sicher,&lt;br&gt;dass die Verbindung nicht über einen Proxyserver läuft.&lt;/H3&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>StepButtons</name>
+    <message>
+        <source>Next photo</source>
+        <translation>Nächstes Foto</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>Vorheriges Foto</translation>
     </message>
 </context>
 </TS>

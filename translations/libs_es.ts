@@ -30,6 +30,41 @@
         <source>Quit</source>
         <translation>Salir</translation>
     </message>
+    <message>
+        <source>Check Updates</source>
+        <translation>Buscar actualizaciones</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::AppUpdateDialog</name>
+    <message>
+        <source>Check for updates on start</source>
+        <translation>Buscar actualizaciones al iniciar</translation>
+    </message>
+    <message>
+        <source> Updates Notification</source>
+        <translation> – Actualizaciones</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;The newer version of </source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Hay una versión más reciente de </translation>
+    </message>
+    <message>
+        <source> is available.&lt;br&gt;Go to the updates web page?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>.&lt;br&gt;¿Ir a la página de actualizaciones?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the updates web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Está usando la última versión.&lt;br&gt;¿Ir de todos modos a la página de actualizaciones?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::ColorWidgetPopup</name>
@@ -55,6 +90,48 @@
     <message>
         <source>Open the photos</source>
         <translation>Abrir las fotos</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageArea</name>
+    <message>
+        <source>Loading</source>
+        <translation>Cargando</translation>
+    </message>
+    <message>
+        <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;Ajustado a la ventana&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageViewer</name>
+    <message>
+        <source>Open with Preview</source>
+        <translation>Abrir en el visor</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Reduce the picture</source>
+        <translation>Reducir la imagen</translation>
+    </message>
+    <message>
+        <source>Enlarge the picture</source>
+        <translation>Ampliar la imagen</translation>
+    </message>
+    <message>
+        <source>Actual Pixels</source>
+        <translation>Tamaño real</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>Fit To Window</source>
+        <translation>Ajustar a la ventana</translation>
     </message>
 </context>
 <context>
@@ -139,6 +216,28 @@
     <message>
         <source>App Menu</source>
         <translation>Menú del programa</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::UpdateCheck</name>
+    <message>
+        <source> Updates Check Error</source>
+        <translation> – Error al buscar actualizaciones</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;No internet connection is available,&lt;br&gt;please, check the firewall settings and make sure that&lt;br&gt;you are not using the the internet connection via the proxy server.&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;No hay conexión a Internet.&lt;br&gt;Compruebe los ajustes del cortafuegos y asegúrese de que&lt;br&gt;la conexión no pasa por un servidor proxy.&lt;/H3&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>StepButtons</name>
+    <message>
+        <source>Next photo</source>
+        <translation>Foto siguiente</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>Foto anterior</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,41 @@
         <source>Quit</source>
         <translation>बाहर निकलें</translation>
     </message>
+    <message>
+        <source>Check Updates</source>
+        <translation>अपडेट जाँचें</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::AppUpdateDialog</name>
+    <message>
+        <source>Check for updates on start</source>
+        <translation>शुरू में अपडेट जाँचें</translation>
+    </message>
+    <message>
+        <source> Updates Notification</source>
+        <translation> – अपडेट सूचना</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;The newer version of </source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;नया संस्करण उपलब्ध है: </translation>
+    </message>
+    <message>
+        <source> is available.&lt;br&gt;Go to the updates web page?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>।&lt;br&gt;क्या अपडेट वेब पेज पर जाएँ?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the updates web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;आप नवीनतम संस्करण का उपयोग कर रहे हैं।&lt;br&gt;फिर भी अपडेट वेब पेज पर जाएँ?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>हाँ</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>नहीं</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::ColorWidgetPopup</name>
@@ -55,6 +90,48 @@
     <message>
         <source>Open the photos</source>
         <translation>फ़ोटो खोलें</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageArea</name>
+    <message>
+        <source>Loading</source>
+        <translation>लोड हो रहा है</translation>
+    </message>
+    <message>
+        <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;विंडो में फ़िट&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageViewer</name>
+    <message>
+        <source>Open with Preview</source>
+        <translation>प्रीव्यू में खोलें</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ज़ूम</translation>
+    </message>
+    <message>
+        <source>Reduce the picture</source>
+        <translation>चित्र छोटा करें</translation>
+    </message>
+    <message>
+        <source>Enlarge the picture</source>
+        <translation>चित्र बड़ा करें</translation>
+    </message>
+    <message>
+        <source>Actual Pixels</source>
+        <translation>वास्तविक आकार</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>Fit To Window</source>
+        <translation>विंडो में फ़िट करें</translation>
     </message>
 </context>
 <context>
@@ -139,6 +216,28 @@
     <message>
         <source>App Menu</source>
         <translation>प्रोग्राम मेनू</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::UpdateCheck</name>
+    <message>
+        <source> Updates Check Error</source>
+        <translation> – अपडेट जाँचने में त्रुटि</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;No internet connection is available,&lt;br&gt;please, check the firewall settings and make sure that&lt;br&gt;you are not using the the internet connection via the proxy server.&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;इंटरनेट कनेक्शन उपलब्ध नहीं है।&lt;br&gt;कृपया फ़ायरवॉल सेटिंग जाँचें और सुनिश्चित करें कि&lt;br&gt;कनेक्शन प्रॉक्सी सर्वर से होकर नहीं जाता।&lt;/H3&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>StepButtons</name>
+    <message>
+        <source>Next photo</source>
+        <translation>अगली फ़ोटो</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>पिछली फ़ोटो</translation>
     </message>
 </context>
 </TS>

@@ -30,6 +30,41 @@
         <source>Quit</source>
         <translation>Esci</translation>
     </message>
+    <message>
+        <source>Check Updates</source>
+        <translation>Cerca aggiornamenti</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::AppUpdateDialog</name>
+    <message>
+        <source>Check for updates on start</source>
+        <translation>Cerca aggiornamenti all’avvio</translation>
+    </message>
+    <message>
+        <source> Updates Notification</source>
+        <translation> – Aggiornamenti</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;The newer version of </source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;È disponibile una nuova versione di </translation>
+    </message>
+    <message>
+        <source> is available.&lt;br&gt;Go to the updates web page?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>.&lt;br&gt;Andare alla pagina degli aggiornamenti?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;CENTER&gt;&lt;H2&gt;You are using the latest version available.&lt;br&gt;Go to the updates web page anyway?&lt;/H2&gt;&lt;/CENTER&gt;</source>
+        <translation>&lt;CENTER&gt;&lt;H2&gt;Stai usando la versione più recente.&lt;br&gt;Andare comunque alla pagina degli aggiornamenti?&lt;/H2&gt;&lt;/CENTER&gt;</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::ColorWidgetPopup</name>
@@ -55,6 +90,48 @@
     <message>
         <source>Open the photos</source>
         <translation>Apri le foto</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageArea</name>
+    <message>
+        <source>Loading</source>
+        <translation>Caricamento</translation>
+    </message>
+    <message>
+        <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
+        <translation>&lt;H1&gt;Adattato alla finestra&lt;/H1&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ImageViewer</name>
+    <message>
+        <source>Open with Preview</source>
+        <translation>Apri nel visualizzatore</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Reduce the picture</source>
+        <translation>Riduci l’immagine</translation>
+    </message>
+    <message>
+        <source>Enlarge the picture</source>
+        <translation>Ingrandisci l’immagine</translation>
+    </message>
+    <message>
+        <source>Actual Pixels</source>
+        <translation>Dimensioni reali</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>Fit To Window</source>
+        <translation>Adatta alla finestra</translation>
     </message>
 </context>
 <context>
@@ -139,6 +216,28 @@
     <message>
         <source>App Menu</source>
         <translation>Menu del programma</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::UpdateCheck</name>
+    <message>
+        <source> Updates Check Error</source>
+        <translation> – Errore nella ricerca di aggiornamenti</translation>
+    </message>
+    <message>
+        <source>&lt;H3&gt;No internet connection is available,&lt;br&gt;please, check the firewall settings and make sure that&lt;br&gt;you are not using the the internet connection via the proxy server.&lt;/H3&gt;</source>
+        <translation>&lt;H3&gt;Nessuna connessione a Internet disponibile.&lt;br&gt;Controlla le impostazioni del firewall e assicurati che&lt;br&gt;la connessione non passi per un server proxy.&lt;/H3&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>StepButtons</name>
+    <message>
+        <source>Next photo</source>
+        <translation>Foto successiva</translation>
+    </message>
+    <message>
+        <source>Previous photo</source>
+        <translation>Foto precedente</translation>
     </message>
 </context>
 </TS>

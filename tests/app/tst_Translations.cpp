@@ -30,14 +30,24 @@ QStringList found(const QString& text, const QString& pattern)
     return matches;
 }
 
+/// Whether a piece of text keeps apart from a name that stands next to it.
+bool keepsApart(QChar edge)
+{
+    return edge.isSpace() || edge.isPunct();
+}
+
 /// What has got lost between a text and its translation, or nothing.
 QString lostIn(const QString& source, const QString& translation)
 {
     // Placeholders, tags and line ends may change places but not number.
-    for (const char* pattern : {"%\\d", "</?[A-Za-z][^>]*>", "\n", "\"", "^ ", " $"}) {
+    for (const char* pattern : {"%\\d", "</?[A-Za-z][^>]*>", "\n", "\""}) {
         if (found(source, QLatin1String(pattern)) != found(translation, QLatin1String(pattern))) {
             return QLatin1String(pattern);
         }
+    }
+    if ((source.startsWith(QLatin1Char(' ')) && !keepsApart(translation.front())) ||
+        (source.endsWith(QLatin1Char(' ')) && !keepsApart(translation.back()))) {
+        return QStringLiteral(" ");
     }
     // A mnemonic stays, and only there.
     if (found(source, QStringLiteral("&\\w")).size() !=

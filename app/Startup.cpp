@@ -47,12 +47,16 @@ void setUpApplication(QMWidgets::App& app)
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/appicon.png")));
 }
 
-void openProgram(QMWidgets::App& app, MainPage& page, QMWidgets::DropWidget& dropWindow)
+void preparePage(QMWidgets::App& app, MainPage& page)
 {
     fillCatalogue(*page.menuBar());
     QObject::connect(&app, &QMWidgets::App::dockClicked, &page, &MainPage::showNormal);
     app.setHelpImages(helpSlides(app.language(), app.resourcesPath()));
     page.setWindowTitle(QCoreApplication::applicationName());
+}
+
+void openDropWindow(QMWidgets::App& app, MainPage& page, QMWidgets::DropWidget& dropWindow)
+{
     dropWindow.setWindowTitle(QCoreApplication::applicationName());
     dropWindow.resize(400, 400);
     dropWindow.show();

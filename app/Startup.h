@@ -21,6 +21,9 @@ void prepareProcess();
 /// widget is made.
 void setUpApplication(QMWidgets::App& app);
 
-/// Puts the page and the drop window together and shows the drop window; the page follows when the
-/// first photos arrive.
-void openProgram(QMWidgets::App& app, MainPage& page, QMWidgets::DropWidget& dropWindow);
+/// Fills the page's menus and loads the language, which the page follows. Before the drop window is
+/// made.
+void preparePage(QMWidgets::App& app, MainPage& page);
+
+/// Shows the drop window; the page comes up when the first photos arrive there.
+void openDropWindow(QMWidgets::App& app, MainPage& page, QMWidgets::DropWidget& dropWindow);

@@ -14,7 +14,8 @@ int main(int argc, char** argv)
     app.setUpdateService(
         {{QMWidgets::MakerSite::updateHost(), QMWidgets::MakerSite::secondUpdateHost()}});
     MainPage page(nullptr);
+    preparePage(app, page);
     QMWidgets::DropWidget dropWindow(nullptr);
-    openProgram(app, page, dropWindow);
+    openDropWindow(app, page, dropWindow);
     return QApplication::exec();
 }

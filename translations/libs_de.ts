@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>QMWidgets::AboutDialog</name>
+    <message>
+        <source>&amp;Legal Notices</source>
+        <translation>&amp;Rechtliche Hinweise</translation>
+    </message>
+    <message>
+        <source> Info</source>
+        <translation> – Info</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Ausblenden</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
@@ -33,6 +52,18 @@
     <message>
         <source>Check Updates</source>
         <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>Join Us</source>
+        <translation>Folgen Sie uns</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
     </message>
 </context>
 <context>
@@ -78,6 +109,76 @@
     </message>
 </context>
 <context>
+    <name>QMWidgets::CssDoc</name>
+    <message>
+        <source>Style sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::CssEditor</name>
+    <message>
+        <source>CSS Style Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ave As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Schritte</translation>
+    </message>
+    <message>
+        <source>&amp;SetInfo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
@@ -90,6 +191,21 @@
     <message>
         <source>Open the photos</source>
         <translation>Fotos öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::HelpDialog</name>
+    <message>
+        <source>&amp;Never show on start</source>
+        <translation>Beim Start &amp;nie zeigen</translation>
+    </message>
+    <message>
+        <source> Introduction</source>
+        <translation> – Einführung</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
     </message>
 </context>
 <context>
@@ -139,6 +255,47 @@
     <message>
         <source>Ok</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinDialog</name>
+    <message>
+        <source>Join us</source>
+        <translation>Folgen Sie uns</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinReminderDialog</name>
+    <message>
+        <source>Join Us</source>
+        <translation>Folgen Sie uns</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinWidget</name>
+    <message>
+        <source>Join us and stay informed&lt;br&gt;about our</source>
+        <translation>Folgen Sie uns und bleiben Sie&lt;br&gt;informiert über</translation>
+    </message>
+    <message>
+        <source>   1. FREE APP Actions&lt;br&gt;</source>
+        <translation>   1. Gratis-Aktionen&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   2. APP Updates&lt;br&gt;</source>
+        <translation>   2. App-Updates&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   3. New APPs&lt;br&gt;</source>
+        <translation>   3. Neue Apps&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   4. Important News&lt;br&gt;</source>
+        <translation>   4. Wichtige Neuigkeiten&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   and more...</source>
+        <translation>   und mehr …</translation>
     </message>
 </context>
 <context>
@@ -216,6 +373,73 @@
     <message>
         <source>App Menu</source>
         <translation>Programmmenü</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::RateReminderDialog</name>
+    <message>
+        <source>&lt;br&gt;please rate it in the App Store.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;bewerten Sie sie bitte im App Store.&lt;br&gt;Danke!</translation>
+    </message>
+    <message>
+        <source>&amp;Rate It Now</source>
+        <translation>&amp;Jetzt bewerten</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ReminderDialog</name>
+    <message>
+        <source>&amp;Maybe Later</source>
+        <translation>&amp;Vielleicht später</translation>
+    </message>
+    <message>
+        <source>&amp;Never Ask Me Again</source>
+        <translation>&amp;Nie wieder fragen</translation>
+    </message>
+    <message>
+        <source>Help Spread the Word about &quot;</source>
+        <translation>Empfehlen Sie &quot;</translation>
+    </message>
+    <message>
+        <source>If you like </source>
+        <translation>Wenn Ihnen die App </translation>
+    </message>
+    <message>
+        <source>-App,</source>
+        <translation> gefällt,</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::SocialRows</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellDialog</name>
+    <message>
+        <source>Share </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you like&lt;br&gt;&quot;</source>
+        <translation>Wenn Ihnen&lt;br&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;gefällt, empfehlen Sie es bitte weiter.&lt;br&gt;Danke!</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellReminderDialog</name>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;empfehlen Sie sie bitte Ihren Freunden.&lt;br&gt;Danke!</translation>
     </message>
 </context>
 <context>

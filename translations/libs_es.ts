@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>QMWidgets::AboutDialog</name>
+    <message>
+        <source>&amp;Legal Notices</source>
+        <translation>Avisos &amp;legales</translation>
+    </message>
+    <message>
+        <source> Info</source>
+        <translation> – Información</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Ocultar</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
@@ -33,6 +52,18 @@
     <message>
         <source>Check Updates</source>
         <translation>Buscar actualizaciones</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Compartir</translation>
+    </message>
+    <message>
+        <source>Join Us</source>
+        <translation>Síganos</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
     </message>
 </context>
 <context>
@@ -78,6 +109,76 @@
     </message>
 </context>
 <context>
+    <name>QMWidgets::CssDoc</name>
+    <message>
+        <source>Style sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::CssEditor</name>
+    <message>
+        <source>CSS Style Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ave As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Operaciones</translation>
+    </message>
+    <message>
+        <source>&amp;SetInfo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
@@ -90,6 +191,21 @@
     <message>
         <source>Open the photos</source>
         <translation>Abrir las fotos</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::HelpDialog</name>
+    <message>
+        <source>&amp;Never show on start</source>
+        <translation>&amp;No mostrar al iniciar</translation>
+    </message>
+    <message>
+        <source> Introduction</source>
+        <translation> – Introducción</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
     </message>
 </context>
 <context>
@@ -139,6 +255,47 @@
     <message>
         <source>Ok</source>
         <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinDialog</name>
+    <message>
+        <source>Join us</source>
+        <translation>Síganos</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinReminderDialog</name>
+    <message>
+        <source>Join Us</source>
+        <translation>Síganos</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinWidget</name>
+    <message>
+        <source>Join us and stay informed&lt;br&gt;about our</source>
+        <translation>Síganos y manténgase informado&lt;br&gt;sobre</translation>
+    </message>
+    <message>
+        <source>   1. FREE APP Actions&lt;br&gt;</source>
+        <translation>   1. Promociones gratuitas&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   2. APP Updates&lt;br&gt;</source>
+        <translation>   2. Actualizaciones&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   3. New APPs&lt;br&gt;</source>
+        <translation>   3. Aplicaciones nuevas&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   4. Important News&lt;br&gt;</source>
+        <translation>   4. Noticias importantes&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   and more...</source>
+        <translation>   y mucho más…</translation>
     </message>
 </context>
 <context>
@@ -216,6 +373,73 @@
     <message>
         <source>App Menu</source>
         <translation>Menú del programa</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::RateReminderDialog</name>
+    <message>
+        <source>&lt;br&gt;please rate it in the App Store.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;valore la aplicación en la App Store.&lt;br&gt;¡Gracias!</translation>
+    </message>
+    <message>
+        <source>&amp;Rate It Now</source>
+        <translation>&amp;Valorar ahora</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ReminderDialog</name>
+    <message>
+        <source>&amp;Maybe Later</source>
+        <translation>&amp;Quizá más tarde</translation>
+    </message>
+    <message>
+        <source>&amp;Never Ask Me Again</source>
+        <translation>&amp;No volver a preguntar</translation>
+    </message>
+    <message>
+        <source>Help Spread the Word about &quot;</source>
+        <translation>Dé a conocer &quot;</translation>
+    </message>
+    <message>
+        <source>If you like </source>
+        <translation>Si le gusta </translation>
+    </message>
+    <message>
+        <source>-App,</source>
+        <translation>,</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::SocialRows</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellDialog</name>
+    <message>
+        <source>Share </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you like&lt;br&gt;&quot;</source>
+        <translation>Si le gusta&lt;br&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;compártalo con sus amigos.&lt;br&gt;¡Gracias!</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellReminderDialog</name>
+    <message>
+        <source>Share</source>
+        <translation>Compartir</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;compártalo con sus amigos.&lt;br&gt;¡Gracias!</translation>
     </message>
 </context>
 <context>

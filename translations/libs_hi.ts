@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hi" sourcelanguage="en">
 <context>
+    <name>QMWidgets::AboutDialog</name>
+    <message>
+        <source>&amp;Legal Notices</source>
+        <translation>कानूनी सूचनाएँ(&amp;L)</translation>
+    </message>
+    <message>
+        <source> Info</source>
+        <translation> – जानकारी</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>ठीक है(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>छिपाएँ(&amp;H)</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
@@ -33,6 +52,18 @@
     <message>
         <source>Check Updates</source>
         <translation>अपडेट जाँचें</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>साझा करें</translation>
+    </message>
+    <message>
+        <source>Join Us</source>
+        <translation>हमसे जुड़ें</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>परिचय</translation>
     </message>
 </context>
 <context>
@@ -78,6 +109,76 @@
     </message>
 </context>
 <context>
+    <name>QMWidgets::CssDoc</name>
+    <message>
+        <source>Style sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::CssEditor</name>
+    <message>
+        <source>CSS Style Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ave As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>ऑपरेशन</translation>
+    </message>
+    <message>
+        <source>&amp;SetInfo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>परिचय</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
@@ -90,6 +191,21 @@
     <message>
         <source>Open the photos</source>
         <translation>फ़ोटो खोलें</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::HelpDialog</name>
+    <message>
+        <source>&amp;Never show on start</source>
+        <translation>शुरू में न दिखाएँ(&amp;N)</translation>
+    </message>
+    <message>
+        <source> Introduction</source>
+        <translation> – प्रस्तावना</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>बंद करें(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -139,6 +255,47 @@
     <message>
         <source>Ok</source>
         <translation>ठीक है</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinDialog</name>
+    <message>
+        <source>Join us</source>
+        <translation>हमसे जुड़ें</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinReminderDialog</name>
+    <message>
+        <source>Join Us</source>
+        <translation>हमसे जुड़ें</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinWidget</name>
+    <message>
+        <source>Join us and stay informed&lt;br&gt;about our</source>
+        <translation>हमसे जुड़ें और जानकारी पाते रहें&lt;br&gt;इनके बारे में</translation>
+    </message>
+    <message>
+        <source>   1. FREE APP Actions&lt;br&gt;</source>
+        <translation>   1. मुफ़्त ऑफ़र&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   2. APP Updates&lt;br&gt;</source>
+        <translation>   2. ऐप अपडेट&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   3. New APPs&lt;br&gt;</source>
+        <translation>   3. नए ऐप&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   4. Important News&lt;br&gt;</source>
+        <translation>   4. ज़रूरी समाचार&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   and more...</source>
+        <translation>   और भी बहुत कुछ…</translation>
     </message>
 </context>
 <context>
@@ -216,6 +373,73 @@
     <message>
         <source>App Menu</source>
         <translation>प्रोग्राम मेनू</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::RateReminderDialog</name>
+    <message>
+        <source>&lt;br&gt;please rate it in the App Store.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;तो App Store में इसे रेट करें।&lt;br&gt;धन्यवाद!</translation>
+    </message>
+    <message>
+        <source>&amp;Rate It Now</source>
+        <translation>अभी रेट करें(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ReminderDialog</name>
+    <message>
+        <source>&amp;Maybe Later</source>
+        <translation>शायद बाद में(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Never Ask Me Again</source>
+        <translation>फिर न पूछें(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Help Spread the Word about &quot;</source>
+        <translation>दूसरों को बताएँ: &quot;</translation>
+    </message>
+    <message>
+        <source>If you like </source>
+        <translation>यदि आपको पसंद है </translation>
+    </message>
+    <message>
+        <source>-App,</source>
+        <translation> ऐप,</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::SocialRows</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>बंद करें(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellDialog</name>
+    <message>
+        <source>Share </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you like&lt;br&gt;&quot;</source>
+        <translation>यदि आपको पसंद है&lt;br&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;तो अपने मित्रों से साझा करें।&lt;br&gt;धन्यवाद!</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellReminderDialog</name>
+    <message>
+        <source>Share</source>
+        <translation>साझा करें</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;तो अपने मित्रों से साझा करें।&lt;br&gt;धन्यवाद!</translation>
     </message>
 </context>
 <context>

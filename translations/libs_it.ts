@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>QMWidgets::AboutDialog</name>
+    <message>
+        <source>&amp;Legal Notices</source>
+        <translation>Note &amp;legali</translation>
+    </message>
+    <message>
+        <source> Info</source>
+        <translation> – Informazioni</translation>
+    </message>
+    <message>
+        <source>&amp;Ok</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Nascondi</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::App</name>
     <message>
         <source>&lt;H3&gt;This Application Uses:&lt;/H3&gt;</source>
@@ -33,6 +52,18 @@
     <message>
         <source>Check Updates</source>
         <translation>Cerca aggiornamenti</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Condividi</translation>
+    </message>
+    <message>
+        <source>Join Us</source>
+        <translation>Seguici</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
     </message>
 </context>
 <context>
@@ -78,6 +109,76 @@
     </message>
 </context>
 <context>
+    <name>QMWidgets::CssDoc</name>
+    <message>
+        <source>Style sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::CssEditor</name>
+    <message>
+        <source>CSS Style Editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ave As...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operations</source>
+        <translation>Operazioni</translation>
+    </message>
+    <message>
+        <source>&amp;SetInfo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+</context>
+<context>
     <name>QMWidgets::DropWidget</name>
     <message>
         <source>&lt;H1&gt;Drop the photos here&lt;/H1&gt;</source>
@@ -90,6 +191,21 @@
     <message>
         <source>Open the photos</source>
         <translation>Apri le foto</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::HelpDialog</name>
+    <message>
+        <source>&amp;Never show on start</source>
+        <translation>&amp;Non mostrare all’avvio</translation>
+    </message>
+    <message>
+        <source> Introduction</source>
+        <translation> – Introduzione</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
     </message>
 </context>
 <context>
@@ -139,6 +255,47 @@
     <message>
         <source>Ok</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinDialog</name>
+    <message>
+        <source>Join us</source>
+        <translation>Seguici</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinReminderDialog</name>
+    <message>
+        <source>Join Us</source>
+        <translation>Seguici</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::JoinWidget</name>
+    <message>
+        <source>Join us and stay informed&lt;br&gt;about our</source>
+        <translation>Seguici e resta informato&lt;br&gt;su</translation>
+    </message>
+    <message>
+        <source>   1. FREE APP Actions&lt;br&gt;</source>
+        <translation>   1. Offerte gratuite&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   2. APP Updates&lt;br&gt;</source>
+        <translation>   2. Aggiornamenti&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   3. New APPs&lt;br&gt;</source>
+        <translation>   3. Nuove app&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   4. Important News&lt;br&gt;</source>
+        <translation>   4. Novità importanti&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>   and more...</source>
+        <translation>   e altro ancora…</translation>
     </message>
 </context>
 <context>
@@ -216,6 +373,73 @@
     <message>
         <source>App Menu</source>
         <translation>Menu del programma</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::RateReminderDialog</name>
+    <message>
+        <source>&lt;br&gt;please rate it in the App Store.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;valuta l’app nell’App Store.&lt;br&gt;Grazie!</translation>
+    </message>
+    <message>
+        <source>&amp;Rate It Now</source>
+        <translation>&amp;Valuta ora</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::ReminderDialog</name>
+    <message>
+        <source>&amp;Maybe Later</source>
+        <translation>&amp;Forse più tardi</translation>
+    </message>
+    <message>
+        <source>&amp;Never Ask Me Again</source>
+        <translation>&amp;Non chiedere più</translation>
+    </message>
+    <message>
+        <source>Help Spread the Word about &quot;</source>
+        <translation>Fai conoscere &quot;</translation>
+    </message>
+    <message>
+        <source>If you like </source>
+        <translation>Se ti piace </translation>
+    </message>
+    <message>
+        <source>-App,</source>
+        <translation>,</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::SocialRows</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellDialog</name>
+    <message>
+        <source>Share </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If you like&lt;br&gt;&quot;</source>
+        <translation>Se ti piace&lt;br&gt;&quot;</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;parlane con gli amici.&lt;br&gt;Grazie!</translation>
+    </message>
+</context>
+<context>
+    <name>QMWidgets::TellReminderDialog</name>
+    <message>
+        <source>Share</source>
+        <translation>Condividi</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;Share it with Your Friends.&lt;br&gt;Thanks!</source>
+        <translation>&lt;br&gt;parlane con gli amici.&lt;br&gt;Grazie!</translation>
     </message>
 </context>
 <context>

@@ -32,8 +32,9 @@ public:
     {
         setUpApplication(*QMWidgets::App::app());
         page = new MainPage(nullptr);
+        preparePage(*QMWidgets::App::app(), *page);
         dropWindow = new QMWidgets::DropWidget(nullptr);
-        openProgram(*QMWidgets::App::app(), *page, *dropWindow);
+        openDropWindow(*QMWidgets::App::app(), *page, *dropWindow);
     }
     ~Program()
     {

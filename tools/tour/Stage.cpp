@@ -71,7 +71,8 @@ void Stage::open(const QString& sceneName)
     m_resultCount = 0;
 
     m_program = std::make_unique<Program>();
-    openProgram(*m_app, m_program->page, m_program->dropWindow);
+    preparePage(*m_app, m_program->page);
+    openDropWindow(*m_app, m_program->page, m_program->dropWindow);
     const QPoint corner = QGuiApplication::primaryScreen()->availableGeometry().topLeft();
     m_program->page.move(corner);
     QObject::connect(find<NodesOptionsPanel>(), &NodesOptionsPanel::imageChanged, page(),

@@ -1,6 +1,7 @@
 #include "AppMenu.h"
 
 #include "App.h"
+#include "FollowLanguage.h"
 
 namespace QMWidgets
 {
@@ -35,7 +36,9 @@ const Entry kEntries[] = {
 
 void addEntry(QMenu* menu, const Entry& entry, App* app)
 {
-    QAction* action = menu->addAction(QIcon(QLatin1String(entry.icon)), AppMenu::tr(entry.text));
+    QAction* action = menu->addAction(QIcon(QLatin1String(entry.icon)), QString());
+    const char* const text = entry.text;
+    followLanguage(menu, [action, text] { action->setText(AppMenu::tr(text)); });
     QObject::connect(action, &QAction::triggered, app, entry.slot);
 }
 
@@ -55,7 +58,8 @@ AppMenu::AppMenu(QWidget* parent)
         }
     }
     addSeparator();
-    QAction* quit = addAction(tr("Quit"));
+    QAction* quit = addAction(QString());
+    followLanguage(this, [quit] { quit->setText(tr("Quit")); });
     connect(quit, &QAction::triggered, this, &AppMenu::quitPressed);
 }
 

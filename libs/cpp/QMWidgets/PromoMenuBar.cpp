@@ -2,6 +2,7 @@
 
 #include "App.h"
 #include "AppButton.h"
+#include "FollowLanguage.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -17,14 +18,16 @@ namespace
 {
 
 template <class Button>
-Button* imageButton(const QString& objectName, const QString& toolTip, QWidget* parent)
+Button* imageButton(const QString& objectName, const char* toolTip, QWidget* parent)
 {
     auto* button = new Button(parent);
     button->setObjectName(objectName);
     button->setFlat(true);
-    button->setToolTip(toolTip);
-    // The button is all picture; this is what a screen reader has to go by.
-    button->setAccessibleName(toolTip);
+    followLanguage(button, [button, toolTip] {
+        button->setToolTip(PromoMenuBar::tr(toolTip));
+        // The button is all picture; this is what a screen reader has to go by.
+        button->setAccessibleName(PromoMenuBar::tr(toolTip));
+    });
     button->setFixedSize(60, 32);
     return button;
 }
@@ -39,14 +42,17 @@ PromoMenuBar::PromoMenuBar(QWidget* parent)
     connect(m_urlMapper, &QSignalMapper::mappedString, this, &PromoMenuBar::slotCallUrl);
 
     m_introButton =
-        imageButton<QPushButton>(QStringLiteral("IntroButton"), tr("Introduction"), this);
-    m_moreButton = imageButton<QPushButton>(QStringLiteral("MoreButton"), tr("More"), this);
-    m_rateButton = imageButton<QPushButton>(QStringLiteral("RateButton"), tr("Rate App"), this);
+        imageButton<QPushButton>(QStringLiteral("IntroButton"), QT_TR_NOOP("Introduction"), this);
+    m_moreButton = imageButton<QPushButton>(QStringLiteral("MoreButton"), QT_TR_NOOP("More"), this);
+    m_rateButton =
+        imageButton<QPushButton>(QStringLiteral("RateButton"), QT_TR_NOOP("Rate App"), this);
     m_moreAppsButton =
-        imageButton<QPushButton>(QStringLiteral("MoreAppsButton"), tr("More Apps"), this);
-    m_shareButton = imageButton<QPushButton>(QStringLiteral("ShareButton"), tr("Share"), this);
-    m_joinButton = imageButton<QPushButton>(QStringLiteral("JoinButton"), tr("Join Us"), this);
-    m_appButton = imageButton<AppButton>(QStringLiteral("AppButton"), tr("App Menu"), this);
+        imageButton<QPushButton>(QStringLiteral("MoreAppsButton"), QT_TR_NOOP("More Apps"), this);
+    m_shareButton =
+        imageButton<QPushButton>(QStringLiteral("ShareButton"), QT_TR_NOOP("Share"), this);
+    m_joinButton =
+        imageButton<QPushButton>(QStringLiteral("JoinButton"), QT_TR_NOOP("Join Us"), this);
+    m_appButton = imageButton<AppButton>(QStringLiteral("AppButton"), QT_TR_NOOP("App Menu"), this);
 
     m_moreMenu = new QMenu(m_moreButton);
     m_moreButton->setMenu(m_moreMenu);
@@ -107,8 +113,8 @@ void PromoMenuBar::addCatalogueSeparator()
 void PromoMenuBar::addMoreAppsEntry()
 {
     m_moreMenu->addSeparator();
-    QAction* action =
-        m_moreMenu->addAction(QIcon(QStringLiteral(":/moreappsicon.png")), tr("More Apps"));
+    QAction* action = m_moreMenu->addAction(QIcon(QStringLiteral(":/moreappsicon.png")), QString());
+    followLanguage(m_moreMenu, [action] { action->setText(tr("More Apps")); });
     connect(action, &QAction::triggered, App::app(), &App::slotShowMoreApps);
     m_moreMenu->addSeparator();
 }

@@ -80,10 +80,13 @@ void tst_Vignette::parameters()
     QFETCH(int, radius);
     QFETCH(int, opacity);
     for (const auto format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
-        const QImage image = randomImage({90, 47}, format, RandomAlpha::Any, 6);
-        for (const QColor& color : {QColor(250, 128, 0, 7), QColor()}) {
-            COMPARE_IMAGES(vignetteImage(image, radius, opacity, color),
-                           reference::vignette(image, radius, opacity, color));
+        // The second one is large enough to be painted row by row.
+        for (const QSize& size : {QSize(90, 47), QSize(730, 9)}) {
+            const QImage image = randomImage(size, format, RandomAlpha::Any, 6);
+            for (const QColor& color : {QColor(250, 128, 0, 7), QColor()}) {
+                COMPARE_IMAGES(vignetteImage(image, radius, opacity, color),
+                               reference::vignette(image, radius, opacity, color));
+            }
         }
     }
 }

@@ -80,6 +80,9 @@ QImage withSampledRows(const QImage& source, const VignetteLook& look)
     const int fast = premultiplied ? width : straightOverCount(width);
     QImage rest(width - fast, source.height(), format);
     QImage result = imageLike(source, source.size(), format);
+    if (result.isNull() || (fast < width && rest.isNull())) {
+        return QImage();
+    }
     std::vector<uint32_t> sampled(size_t(width), 0);
     for (const int y : pairedOrder(rows, gradient)) {
         const uint32_t* under = sourceRow(source, y);

@@ -1,10 +1,10 @@
 #include "flow/FlowFile.h"
 
 #include "flow/FlowsFolder.h"
+#include <QMWidgets/WholeFile.h>
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QTextCodec>
 
 namespace
@@ -54,11 +54,7 @@ bool read(const QString& path, QString& text)
 bool write(const QString& path, const QString& text)
 {
     const QByteArray bytes = text.toUtf8();
-    // Written beside the target and renamed at the end: a full disk leaves no half flow. A write
-    // that goes half way is no error to commit().
-    QSaveFile file(path);
-    return !path.isEmpty() && bytes.size() <= kMaxBytes && file.open(QIODevice::WriteOnly) &&
-           file.write(bytes) == bytes.size() && file.flush() && file.commit();
+    return !path.isEmpty() && bytes.size() <= kMaxBytes && QMWidgets::writeWholeFile(path, bytes);
 }
 
 } // namespace FlowFile

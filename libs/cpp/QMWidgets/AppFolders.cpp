@@ -1,9 +1,10 @@
 #include "App.h"
 
+#include "WholeFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace QMWidgets
@@ -102,11 +103,7 @@ bool App::copyFileToFolder(const QString& source, const QString& folderPath, con
     if (input.error() != QFileDevice::NoError) {
         return false;
     }
-    // Written beside the target and renamed at the end: a full disk leaves no half file. A write
-    // that goes half way is no error to commit().
-    QSaveFile output(target);
-    return output.open(QIODevice::WriteOnly) && output.write(content) == content.size() &&
-           output.flush() && output.commit();
+    return writeWholeFile(target, content);
 }
 
 } // namespace QMWidgets

@@ -83,14 +83,8 @@ QPushButton* ImageViewer::makeStepButton(const QString& objectName)
     return button;
 }
 
-void ImageViewer::layOut()
+QHBoxLayout* ImageViewer::makeZoomRow()
 {
-    auto* sysPreviewButton = new QPushButton(this);
-    sysPreviewButton->setObjectName(QStringLiteral("SysPreviewButton"));
-    sysPreviewButton->setFixedHeight(kButtonHeight);
-    sysPreviewButton->setFlat(true);
-    connect(sysPreviewButton, &QPushButton::clicked, this, &ImageViewer::slotSysPreview);
-
     // Deliberate: these two names are crossed, and so are the pictures of the style sheet. What
     // the user sees, the minus left of the slider and the plus right of it, does as it shows.
     QPushButton* const minusButton = makeStepButton(QStringLiteral("ZoomInButton"));
@@ -99,43 +93,54 @@ void ImageViewer::layOut()
     connect(minusButton, &QPushButton::clicked, this, &ImageViewer::slotDecZoom);
 
     followLanguage(this, [=] {
-        sysPreviewButton->setText(tr("Open with Preview"));
-        m_slider->setAccessibleName(tr("Zoom"));
         minusButton->setAccessibleName(tr("Reduce the picture"));
         plusButton->setAccessibleName(tr("Enlarge the picture"));
+        m_slider->setAccessibleName(tr("Zoom"));
         m_actualPixelsButton->setText(tr("Actual Pixels"));
         m_actualPixelsButton->setToolTip(tr("100%"));
         m_fitButton->setToolTip(tr("Fit To Window"));
         m_fitButton->setAccessibleName(tr("Fit To Window"));
     });
 
-    auto* upper = new QHBoxLayout;
-    upper->addStretch(1);
-    upper->addWidget(sysPreviewButton);
-    upper->addStretch(1);
-    auto* lower = new QHBoxLayout;
-    lower->setContentsMargins(5, 5, 5, 5);
-    lower->addStretch(1);
-    lower->addWidget(minusButton);
-    lower->addWidget(m_slider);
-    lower->addWidget(plusButton);
-    lower->addSpacing(5);
-    lower->addWidget(m_actualPixelsButton);
-    lower->addSpacing(20);
-    lower->addWidget(m_fitButton);
-    lower->addStretch(1);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addLayout(upper);
-    layout->addWidget(m_area);
-    layout->addLayout(lower);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(5, 5, 5, 5);
+    row->addStretch(1);
+    row->addWidget(minusButton);
+    row->addWidget(m_slider);
+    row->addWidget(plusButton);
+    row->addSpacing(5);
+    row->addWidget(m_actualPixelsButton);
+    row->addSpacing(20);
+    row->addWidget(m_fitButton);
+    row->addStretch(1);
 
     // The keyboard goes through the row as the eye does.
     setTabOrder(minusButton, m_slider);
     setTabOrder(m_slider, plusButton);
     setTabOrder(plusButton, m_actualPixelsButton);
     setTabOrder(m_actualPixelsButton, m_fitButton);
+    return row;
+}
+
+void ImageViewer::layOut()
+{
+    auto* sysPreviewButton = new QPushButton(this);
+    followLanguage(sysPreviewButton, [=] { sysPreviewButton->setText(tr("Open with Preview")); });
+    sysPreviewButton->setObjectName(QStringLiteral("SysPreviewButton"));
+    sysPreviewButton->setFixedHeight(kButtonHeight);
+    sysPreviewButton->setFlat(true);
+    connect(sysPreviewButton, &QPushButton::clicked, this, &ImageViewer::slotSysPreview);
+
+    auto* upper = new QHBoxLayout;
+    upper->addStretch(1);
+    upper->addWidget(sysPreviewButton);
+    upper->addStretch(1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(upper);
+    layout->addWidget(m_area);
+    layout->addLayout(makeZoomRow());
 }
 
 void ImageViewer::setInfo(const QString& text)

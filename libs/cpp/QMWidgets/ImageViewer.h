@@ -2,6 +2,7 @@
 
 #include <QFrame>
 
+class QHBoxLayout;
 class QImage;
 class QPushButton;
 class QSlider;
@@ -53,6 +54,7 @@ private:
     void makeSlider();
     void makeViewButtons();
     QPushButton* makeStepButton(const QString& objectName);
+    QHBoxLayout* makeZoomRow();
     void layOut();
 
     ImageArea* m_area;

@@ -2,6 +2,7 @@
 
 #include "flow/BaseNode.h"
 #include "flow/FavoritesDeleteDlg.h"
+#include "flow/NamedEntry.h"
 #include "flow/NodesOptionsPanel.h"
 #include "flow/NodesTabBar.h"
 #include "flow/Operations.h"
@@ -98,7 +99,7 @@ QMenu* FlowPanel::makeAddMenu(QWidget* parent)
     auto* menu = new QMenu(parent);
     menu->setObjectName(QStringLiteral("FlowPanelMenu"));
     for (const Operation& operation : operations()) {
-        QAction* const action = menu->addAction(nodeIcon(operation.name), operation.name);
+        QAction* const action = addNamedEntry(menu, nodeIcon(operation.name), operation.name);
         connect(action, &QAction::triggered, this, &FlowPanel::slotAddNode);
     }
     return menu;
@@ -179,7 +180,7 @@ void FlowPanel::slotTabsDragged()
 void FlowPanel::slotAddNode()
 {
     if (const auto* action = qobject_cast<QAction*>(sender())) {
-        addAndTell(action->text());
+        addAndTell(nameOf(action));
     }
 }
 

@@ -81,7 +81,6 @@ private:
     QMenu* makeAddMenu(QWidget* parent);
     void layOut(QPushButton* addButton, QPushButton* flowsButton, QPushButton* runButton);
     void addAndTell(const QString& operationName);
-    void addFavorite(const QString& fileName);
     /// Removes every node. False if something newer has cleared the flow meanwhile.
     bool clearFlow();
 

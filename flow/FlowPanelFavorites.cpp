@@ -4,6 +4,7 @@
 #include "flow/FavoritesDeleteDlg.h"
 #include "flow/FlowFile.h"
 #include "flow/FlowsFolder.h"
+#include "flow/NamedEntry.h"
 #include "flow/NodesTabBar.h"
 #include "flow/ParameterReader.h"
 #include "flow/XmlBounds.h"
@@ -93,20 +94,10 @@ void FlowPanel::rebuildFavoritesMenu()
     const QStringList names =
         QDir(flowsFolder()).entryList({QLatin1Char('*') + kExtension}, QDir::Files, QDir::NoSort);
     for (const QString& name : names) {
-        addFavorite(name);
+        connect(addNamedEntry(m_favoritesMenu, QIcon(), name), &QAction::triggered, this,
+                &FlowPanel::slotLoadFavorite);
         m_deleteDialog->addFlow(name);
     }
-}
-
-void FlowPanel::addFavorite(const QString& fileName)
-{
-    QString text = fileName;
-    // Else an "&" would underline what follows it. Desktops add mnemonics of their own, too: only
-    // the data tell the name for sure.
-    text.replace(QLatin1Char('&'), QLatin1String("&&"));
-    QAction* const action = m_favoritesMenu->addAction(text);
-    action->setData(fileName);
-    connect(action, &QAction::triggered, this, &FlowPanel::slotLoadFavorite);
 }
 
 void FlowPanel::writeFlow(const QString& fileName)
@@ -203,9 +194,8 @@ void FlowPanel::slotLoadFavorite()
     if (!action) {
         return;
     }
-    const QString name = action->data().toString();
     QString xml;
-    if (FlowFile::read(FlowFile::path(name.isEmpty() ? action->text() : name), xml)) {
+    if (FlowFile::read(FlowFile::path(nameOf(action)), xml)) {
         loadFlow(xml);
     }
 }

@@ -35,6 +35,13 @@ private slots:
         QCOMPARE(flow.names(), expected);
         QCOMPARE(flow.bar->currentIndex(), expected.size() - 1);
         QCOMPARE(flow.bar->tabToolTip(0), expected.first());
+
+        // Some desktops mark a letter of each entry.
+        QAction* const entry =
+            flow.panel.findChild<QMenu*>(QStringLiteral("FlowPanelMenu"))->actions().last();
+        entry->setText(QLatin1Char('&') + entry->text());
+        entry->trigger();
+        QCOMPARE(flow.names(), expected << expected.last());
     }
 
     void anUnknownOperationAddsNothing()

@@ -40,7 +40,7 @@ signals:
     void infoChanged();
 
 public slots:
-    /// Units: percent of the picture's own size.
+    /// Units: percent of the picture's own size, 1 to 100.
     void slotZoom(int zoom);
     /// The largest view of the whole picture, enlarged if need be.
     void slotFitScreen();

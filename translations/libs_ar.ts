@@ -112,42 +112,42 @@
     <name>QMWidgets::CssDoc</name>
     <message>
         <source>Style sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>ورقة الأنماط</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ باسم</translation>
     </message>
 </context>
 <context>
     <name>QMWidgets::CssEditor</name>
     <message>
         <source>CSS Style Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>محرر أنماط CSS</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>جاهز</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح…(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ(&amp;S)</translation>
     </message>
     <message>
         <source>S&amp;ave As...</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ باسم…(&amp;A)</translation>
     </message>
     <message>
         <source>Operations</source>
@@ -155,23 +155,23 @@
     </message>
     <message>
         <source>&amp;SetInfo</source>
-        <translation type="unfinished"></translation>
+        <translation>تعيين المعلومات(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>تطبيق(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة الضبط(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>مساعدة(&amp;H)</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>حول(&amp;A)</translation>
     </message>
     <message>
         <source>About</source>
@@ -420,7 +420,7 @@
     <name>QMWidgets::TellDialog</name>
     <message>
         <source>Share </source>
-        <translation type="unfinished"></translation>
+        <translation>مشاركة </translation>
     </message>
     <message>
         <source>If you like&lt;br&gt;&quot;</source>

@@ -1,6 +1,7 @@
 #include "app/Startup.h"
 
 #include "app/Catalogue.h"
+#include "app/DeskStyle.h"
 #include "app/HelpSlides.h"
 #include "app/MainPage.h"
 #include "app/StyleSheet.h"
@@ -38,6 +39,7 @@ void setUpApplication(QMWidgets::App& app)
     app.setPromotedAppUrl(MakerSite::page(QStringLiteral("/apps/tessarin/")));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
     QCoreApplication::setOrganizationDomain(MakerSite::organizationDomain());
+    QApplication::setStyle(new DeskStyle); // the application owns it
     app.setStyleSheet(applicationStyleSheet());
     app.setupWebLinks();
     if (app.firstRun()) {

@@ -1,0 +1,170 @@
+#include "app/DeskStyle.h"
+
+#include <algorithm>
+#include <QMenu>
+#include <QPainter>
+#include <QStyleOptionSlider>
+
+namespace
+{
+
+constexpr int kHandle = 20; ///< width and height of the handle's picture
+constexpr int kGroove = 4;
+constexpr int kTick = 3;
+constexpr int kTickGap = 3; ///< between groove and ticks
+constexpr int kMenuIcon = 24;
+constexpr int kCrowded = 3; ///< ticks nearer than this run into a bar
+
+bool isHorizontal(const QStyleOptionSlider* slider)
+{
+    return slider && slider->orientation == Qt::Horizontal;
+}
+
+int travel(const QStyleOptionSlider& slider)
+{
+    return slider.rect.width() - kHandle;
+}
+
+/// Where the middle of the handle stands at a value.
+int middleAt(const QStyleOptionSlider& slider, int value)
+{
+    return slider.rect.left() + kHandle / 2 +
+           QStyle::sliderPositionFromValue(slider.minimum, slider.maximum, value, travel(slider),
+                                           slider.upsideDown);
+}
+
+/// The groove ends where the handle's middle does, so that nothing shows beyond a handle at an end.
+QRect grooveOf(const QStyleOptionSlider& slider)
+{
+    return {slider.rect.left() + kHandle / 2, slider.rect.center().y() + 1 - kGroove / 2,
+            travel(slider), kGroove};
+}
+
+/// The value at which the slider changes nothing: zero, or the end where there is none.
+int restOf(const QStyleOptionSlider& slider)
+{
+    return qBound(slider.minimum, 0, slider.maximum);
+}
+
+int tickStep(const QStyleOptionSlider& slider)
+{
+    const auto apart = [&slider](int step) {
+        return QStyle::sliderPositionFromValue(0, slider.maximum - slider.minimum, step,
+                                               travel(slider));
+    };
+    const int step = slider.tickInterval > 0 ? slider.tickInterval : slider.singleStep;
+    return apart(step) < kCrowded ? std::max(slider.pageStep, step) : step;
+}
+
+void drawTicks(QPainter& painter, const QStyleOptionSlider& slider)
+{
+    const int step = tickStep(slider);
+    if (step <= 0 || slider.tickPosition == QSlider::NoTicks) {
+        return;
+    }
+    const QRect groove = grooveOf(slider);
+    const QColor color = slider.palette.color(QPalette::WindowText);
+    // Counted from the value at rest, so that this one has a tick.
+    const qint64 rest = restOf(slider);
+    const qint64 first = rest - (rest - slider.minimum) / step * step;
+    for (qint64 value = first; value <= slider.maximum; value += step) {
+        const int x = middleAt(slider, int(value));
+        if (slider.tickPosition & QSlider::TicksAbove) {
+            painter.fillRect(x, groove.top() - kTickGap - kTick, 1, kTick, color);
+        }
+        if (slider.tickPosition & QSlider::TicksBelow) {
+            painter.fillRect(x, groove.top() + kGroove + kTickGap, 1, kTick, color);
+        }
+    }
+}
+
+void drawGroove(QPainter& painter, const QStyleOptionSlider& slider)
+{
+    const QRectF groove = grooveOf(slider);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(slider.palette.color(QPalette::WindowText));
+    painter.drawRoundedRect(groove.adjusted(-1, -1, 1, 1), kGroove / 2 + 1, kGroove / 2 + 1);
+    painter.setBrush(QColor(25, 25, 25));
+    painter.drawRoundedRect(groove, kGroove / 2, kGroove / 2);
+
+    const int from = middleAt(slider, restOf(slider));
+    const int to = middleAt(slider, slider.sliderPosition);
+    const QRectF filled(std::min(from, to), groove.top(), std::abs(to - from), kGroove);
+    painter.setBrush(slider.palette.color(QPalette::Highlight));
+    painter.drawRoundedRect(filled, kGroove / 2, kGroove / 2);
+}
+
+} // namespace
+
+DeskStyle::DeskStyle()
+    : QProxyStyle(QStringLiteral("fusion"))
+{
+}
+
+void DeskStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    // Once the window exists it is too late for its attributes.
+    if (qobject_cast<QMenu*>(widget) && !widget->testAttribute(Qt::WA_WState_Created)) {
+        widget->overrideWindowFlags(widget->windowFlags() | Qt::FramelessWindowHint |
+                                    Qt::NoDropShadowWindowHint);
+        widget->setAttribute(Qt::WA_TranslucentBackground);
+    }
+}
+
+void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const
+{
+    const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_Slider || !isHorizontal(slider)) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    painter->save();
+    drawTicks(*painter, *slider);
+    drawGroove(*painter, *slider);
+    painter->restore();
+}
+
+QRect DeskStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                SubControl subControl, const QWidget* widget) const
+{
+    const auto* const slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_Slider && isHorizontal(slider)) {
+        if (subControl == SC_SliderHandle) {
+            return {middleAt(*slider, slider->sliderPosition) - kHandle / 2,
+                    slider->rect.center().y() + 1 - kHandle / 2, kHandle, kHandle};
+        }
+        // As wide as the widget: the toolkit takes a handle's way for this less the handle.
+        if (subControl == SC_SliderGroove) {
+            return slider->rect;
+        }
+    }
+    return QProxyStyle::subControlRect(control, option, subControl, widget);
+}
+
+QPixmap DeskStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                                       const QStyleOption* option) const
+{
+    // A photo keeps its colours in a selected row.
+    return mode == QIcon::Selected ? pixmap
+                                   : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+}
+
+int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                           const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_SliderLength:
+    case PM_SliderControlThickness:
+        return kHandle;
+    case PM_SmallIconSize:
+        // The sheet's menus ask for it without naming a widget.
+        return !widget || qobject_cast<const QMenu*>(widget)
+                   ? kMenuIcon
+                   : QProxyStyle::pixelMetric(metric, option, widget);
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}

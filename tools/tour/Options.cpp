@@ -21,7 +21,8 @@ Options Options::read(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         const QString word = QString::fromLocal8Bit(argv[i]);
         const bool takesValue = word == QLatin1String("--only") || word == QLatin1String("--out") ||
-                                word == QLatin1String("--operation-pictures");
+                                word == QLatin1String("--operation-pictures") ||
+                                word == QLatin1String("--contact-sheet");
         const QString value =
             takesValue && i + 1 < argc ? QString::fromLocal8Bit(argv[i + 1]) : QString();
         if (takesValue && value.isEmpty()) {
@@ -35,6 +36,8 @@ Options Options::read(int argc, char** argv)
             options.out = QDir(value).absolutePath();
         } else if (word == QLatin1String("--operation-pictures")) {
             options.operationPictures = QDir(value).absolutePath();
+        } else if (word == QLatin1String("--contact-sheet")) {
+            options.contactSheet = QDir(value).absolutePath();
         } else if (word == QLatin1String("--list")) {
             options.list = true;
         } else if (word == QLatin1String("--keep-photos")) {
@@ -56,6 +59,7 @@ QString Options::usage()
     return QStringLiteral(
         "tessarin_tour [--only NAME,...] [--out FOLDER] [--keep-photos] [--list]\n"
         "tessarin_tour --operation-pictures FOLDER\n"
+        "tessarin_tour --contact-sheet FOLDER\n"
         "\n"
         "Paints sample photos, drives the program through its main job with mouse and keys,\n"
         "and takes pictures of its windows on the way.\n"
@@ -66,5 +70,7 @@ QString Options::usage()
         "  --keep-photos    take the photos that the folder holds from an earlier tour\n"
         "  --list           name the scenes and end\n"
         "\n"
-        "  --operation-pictures FOLDER  write the pictures of docs/operations.md there instead\n");
+        "  --operation-pictures FOLDER  write the pictures of docs/operations.md there instead\n"
+        "  --contact-sheet FOLDER       draw all pictures of the resources there instead, at the\n"
+        "                               size of the screen that QT_SCALE_FACTOR tells\n");
 }

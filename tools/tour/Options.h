@@ -8,6 +8,7 @@ struct Options {
     QStringList only;          ///< names of scenes; empty means all
     QString out;               ///< folder of the photos, the results and the pictures
     QString operationPictures; ///< folder of the guide's pictures, or empty for the tour
+    QString contactSheet;
     bool list = false;
     bool keepPhotos = false; ///< take the photos that the folder holds from an earlier tour
     bool help = false;

@@ -1,3 +1,5 @@
+#include "app/Startup.h"
+#include "ContactSheet.h"
 #include "OperationPictures.h"
 #include "Options.h"
 #include "OwnHome.h"
@@ -57,6 +59,14 @@ int showOperations(int& argc, char** argv, const QString& folder)
     return fault.isEmpty() ? AllWell : SomethingFailed;
 }
 
+int showPictures(int& argc, char** argv, const QString& folder)
+{
+    const QGuiApplication app(argc, argv);
+    const QString fault = writeContactSheet(folder);
+    say(fault.isEmpty() ? QStringLiteral("Pictures: %1").arg(folder) : fault);
+    return fault.isEmpty() ? AllWell : SomethingFailed;
+}
+
 int play(Stage& stage, const Options& options)
 {
     for (const Scene& scene : scenesNamed(options.only)) {
@@ -97,6 +107,10 @@ int main(int argc, char** argv)
     int words = 1;
     if (!options.operationPictures.isEmpty()) {
         return showOperations(words, argv, options.operationPictures);
+    }
+    if (!options.contactSheet.isEmpty()) {
+        prepareProcess();
+        return showPictures(words, argv, options.contactSheet);
     }
     const QDir out(options.out);
     if (!OwnHome::moveInto(out.filePath(QStringLiteral("home")))) {

@@ -13,7 +13,7 @@ constexpr int kGroove = 4;
 constexpr int kTick = 3;
 constexpr int kTickGap = 3; ///< between groove and ticks
 constexpr int kMenuIcon = 24;
-constexpr int kCrowded = 3; ///< ticks nearer than this run into a bar
+constexpr int kCrowded = 5; ///< ticks nearer than this run into a bar
 
 bool isHorizontal(const QStyleOptionSlider* slider)
 {

@@ -46,7 +46,9 @@ void setUpApplication(QMWidgets::App& app)
         // Without it the program runs just as well.
         static_cast<void>(app.copyFileToFolder(kSampleFlow, flowsFolder(), QString()));
     }
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/appicon.png")));
+    QIcon icon(QStringLiteral(":/appicon.png"));
+    icon.addFile(QStringLiteral(":/app.png")); // for task bars and switchers
+    QGuiApplication::setWindowIcon(icon);
 }
 
 void preparePage(QMWidgets::App& app, MainPage& page)

@@ -17,6 +17,7 @@
 #include <MGraphX/GraphX.h>
 
 #include <algorithm>
+#include <QIcon>
 
 namespace
 {
@@ -68,6 +69,8 @@ QVector<Operation> makeOperations()
     };
 }
 
+constexpr int kIconSize = 64;
+
 /// The order in which nodeIcon looks: a text that holds several names gets the icon of the first.
 const char* const kIconOrder[] = {
     "Binarization", "Blur",      "Brightness, Contrast, Saturation",
@@ -98,7 +101,9 @@ QPixmap nodeIcon(const QString& operationName)
 {
     for (const char* const name : kIconOrder) {
         if (operationName.contains(QLatin1String(name))) {
-            return QPixmap(QLatin1String(":/") + findOperation(QLatin1String(name))->icon);
+            // By way of an icon, which takes the picture's twin on a dense screen.
+            const QIcon icon(QLatin1String(":/") + findOperation(QLatin1String(name))->icon);
+            return icon.pixmap(kIconSize, kIconSize);
         }
     }
     return QPixmap();

@@ -94,8 +94,8 @@ def pictures():
     yield from family(bar, 52, 32, 25, HOVER_ONLY)
     yield from family({"MoreAppsButton": glyphs.bag, "RateButton": glyphs.star}, 60, 32, 24, HOVER_ONLY)
     # These two open menus: the sheet puts the menu arrow along their lower edge.
-    yield from family({"More": glyphs.tiles, "AppButton": glyphs.burger}, 60, 32, 20, HOVER_ONLY,
-                      raise_by=2.0)
+    yield from family({"More": glyphs.tiles, "AppButton": glyphs.burger}, 60, 32, 18, HOVER_ONLY,
+                      raise_by=3.0)
     yield from family({"FitToScreenButton": glyphs.fit}, 32, 32, 22, TOGGLE)
     # Deliberate: the names are crossed, ZoomOutButton is the one that enlarges.
     yield from family({"ZoomOutButton": glyphs.zoom_plus, "ZoomInButton": glyphs.zoom_minus},

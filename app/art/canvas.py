@@ -55,6 +55,12 @@ def page(width, height, body, scale=SCALE):
     )
 
 
+def twins(name, width, height, body):
+    """A picture that is laid out pixel for pixel, and its twin for dense screens."""
+    yield name, width, height, body, 1
+    yield f"{name}@2x", width, height, body, SCALE
+
+
 def attributes(values):
     """Keyword arguments as XML attributes: stroke_width becomes stroke-width."""
     return "".join(f' {key.rstrip("_").replace("_", "-")}="{value}"' for key, value in values.items())

@@ -150,13 +150,13 @@ def enlarge(pen):
 
 
 def turned_right(pen):
-    return pen.box(5.4, 12, 13.2, 9) + pen.mark("M4.6 8.6A8.4 6.4 0 0 1 18.4 6.2") + pen.stamp(
-        "M20.9 2.2L20.6 9.4L14.4 6.2Z")
+    return pen.box(4.6, 13.6, 12.4, 8) + pen.mark("M3.4 9.6A8.3 8.3 0 0 1 19.2 7.6") + pen.stamp(
+        "M15.4 7.4L23.6 7.4L19.5 13.2Z")
 
 
 def turned_left(pen):
-    return pen.box(5.4, 12, 13.2, 9) + pen.mark("M19.4 8.6A8.4 6.4 0 0 0 5.6 6.2") + pen.stamp(
-        "M3.1 2.2L3.4 9.4L9.6 6.2Z")
+    return pen.box(7, 13.6, 12.4, 8) + pen.mark("M20.6 9.6A8.3 8.3 0 0 0 4.8 7.6") + pen.stamp(
+        "M8.6 7.4L0.4 7.4L4.5 13.2Z")
 
 
 def vertical_axis(pen):
@@ -219,12 +219,15 @@ def quill(pen):
 
 
 def crate(pen):
-    return pen.line("M3 8.5L12 3.5L21 8.5V18L12 22L3 18Z") + pen.mark("M3.6 8.8L12 13L20.4 8.8M12 13V21")
+    """A box that takes in a letter."""
+    return pen.line("M3 11H5.5M18.5 11H21V21.5H3V11M9.2 16H14.8") + pen.mark(
+        "M6 13V3H18V13M6.4 3.8L12 9L17.6 3.8")
 
 
 def pin(pen):
-    return pen.line("M12 21.8C7 15.6 5 12.4 5 9.4A7 7 0 0 1 19 9.4C19 12.4 17 15.6 12 21.8Z") + pen.dot(
-        12, 9.4, 2.8, accent=True)
+    """A folder with a slip pinned to it."""
+    return pen.line("M2.5 20.5V4.5H9L11.4 7.5H21.5V20.5Z") + pen.mark("M12 14.4V18") + pen.dot(
+        12, 12.4, 2.7, accent=True)
 
 
 def hourglass(pen):

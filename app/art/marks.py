@@ -4,7 +4,7 @@ import math
 
 import glyphs
 from buttons import sign
-from canvas import ACCENT, COAL, INK, circle, group, lifted, line, path, rect
+from canvas import ACCENT, COAL, INK, circle, group, lifted, line, path, rect, twins
 
 
 def point(radius, degrees):
@@ -151,10 +151,8 @@ def product(draw):
 def pictures():
     yield "app", 290, 290, group(program_sign(), transform=f"scale({290 / 256})")
     yield "appicon", 24, 24, group(program_sign(plain=True), transform=f"scale({24 / 256})")
-    yield "corvane", 600, 300, watermark(), 1
-    # Rich text lays a picture out pixel for pixel, and takes "@2x" on dense screens.
+    yield "corvane", 600, 300, watermark()
     logo = group(makers_mark("#f2f2f2", 10), transform="translate(2 1) scale(0.11)")
-    yield "pix/corvanelogo", 72, 24, logo, 1
-    yield "pix/corvanelogo@2x", 72, 24, logo, 2
+    yield from twins("pix/corvanelogo", 72, 24, logo)
     for name, draw in PRODUCTS.items():
-        yield name, 64, 64, product(draw)
+        yield name, 64, 64, product(draw), 1  # rows of a menu show them at less than half of that

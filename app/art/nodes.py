@@ -4,7 +4,7 @@ They also stand at 16 pixels in menus and on tabs, so each is one bold idea:
 light strokes 4 wide, and one part in the accent that says what changes.
 """
 
-from canvas import ACCENT, COAL, DIM, INK, circle, group, landscape, lifted, line, path, rect, shape
+from canvas import ACCENT, COAL, DIM, INK, circle, group, landscape, lifted, line, path, rect, shape, twins
 
 W = 4.0  # line weight at 64
 
@@ -196,5 +196,5 @@ OPERATIONS = {
 
 def pictures():
     for tag, draw in OPERATIONS.items():
-        yield f"Icon_{tag}", 64, 64, draw()
+        yield from twins(f"Icon_{tag}", 64, 64, draw())
     yield "DisabledNode", 360, 360, disabled()

@@ -1,6 +1,6 @@
 """The large pictures: what the drop window, the empty options panel and the panels stand on."""
 
-from canvas import ACCENT, COAL, DIM, INK, circle, group, landscape, line, path, rect, text
+from canvas import ACCENT, COAL, DIM, INK, circle, group, landscape, line, path, rect, text, twins
 import nodes
 
 
@@ -89,7 +89,7 @@ def menu_bar():
 
 
 def panel_tile():
-    """A tile of fine twill. It is laid out pixel for pixel, so it is rendered at its own size."""
+    """A tile of fine twill."""
     cells = [rect(0, 0, 8, 8, fill="#343434")]
     for y in range(0, 8, 2):
         for x in range(0, 8, 4):
@@ -99,7 +99,8 @@ def panel_tile():
 
 
 def open_files():
-    return "".join(
+    """With room at its right, since buttons put a caption close to an icon."""
+    parts = "".join(
         [
             path("M2 6A2 2 0 0 1 4 4H9L11.5 6.5H19A2 2 0 0 1 21 8.5V19H2Z", fill="#a8690b"),
             rect(5, 7.5, 13, 9, 1, fill="#ffffff"),
@@ -108,6 +109,7 @@ def open_files():
                  fill="url(#lamp)"),
         ]
     )
+    return group(parts, transform="translate(-1.6 2.2) scale(0.8)")
 
 
 def pictures():
@@ -115,4 +117,4 @@ def pictures():
     yield "initlabel_en", 735, 175, first_steps()
     yield "openfiles", 24, 24, open_files()
     yield "backgroundbar", 735, 45, menu_bar()
-    yield "panelbackground", 8, 8, panel_tile(), 1
+    yield from twins("panelbackground", 8, 8, panel_tile())

@@ -2,7 +2,7 @@
 
 import glyphs
 from buttons import ON, ON_HOVER, sign
-from canvas import ACCENT, BRIGHT, COAL, INK, circle, gradient, lifted, line, path, rect
+from canvas import ACCENT, BRIGHT, COAL, INK, circle, gradient, lifted, line, path, rect, twins
 
 GREYED = ("#484848", "#3c3c3c", "#6a6a6a", 0.0, "#7a7a7a", "#7a7a7a")
 
@@ -74,6 +74,8 @@ def pictures():
     yield "dart_dis", 20, 20, knob(GREYED)
     yield "spinbox_button1", 10, 5, path("M0.6 4.6L5 0.5L9.4 4.6Z", fill=INK)
     yield "spinbox_button2", 10, 5, path("M0.6 0.4L5 4.5L9.4 0.4Z", fill=INK)
+    yield "spinbox_button1_dis", 10, 5, path("M0.6 4.6L5 0.5L9.4 4.6Z", fill="#707070")
+    yield "spinbox_button2_dis", 10, 5, path("M0.6 0.4L5 4.5L9.4 0.4Z", fill="#707070")
     yield "arrowleft", 16, 16, line("M10.6 2.4L5 8L10.6 13.6", INK, 2.6)
     yield "arrowright", 16, 16, line("M5.4 2.4L11 8L5.4 13.6", INK, 2.6)
     yield "arrowleft_dis", 16, 16, line("M10.6 2.4L5 8L10.6 13.6", "#707070", 2.6)
@@ -86,6 +88,5 @@ def pictures():
     yield "check_on_dis", 14, 14, check(GREYED, True)
     for name, draw in ROWS.items():
         yield name, 24, 24, menu_icon(draw)
-    # Shown pixel for pixel in the update box.
-    yield "update_available", 128, 128, update(True), 1
-    yield "update_not_available", 128, 128, update(False), 1
+    yield from twins("update_available", 128, 128, update(True))
+    yield from twins("update_not_available", 128, 128, update(False))

@@ -9,6 +9,7 @@
 #include <QMWidgets/LiteralText.h>
 #include <QMWidgets/MMessageBox.h>
 
+#include <algorithm>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
@@ -37,7 +38,10 @@ constexpr const SliderParameter& kSize = kSliders[0];
 constexpr const SliderParameter& kTransparency = kSliders[1];
 
 /// Width of the wide fields. Font names can be long, and both kinds of mark share the page.
-constexpr int kFieldWidth = 230;
+constexpr int kFieldWidth = 220;
+constexpr int kRowHeight = 27;
+constexpr int kSwatchRowHeight = 31;
+constexpr int kFirstSwatchRow = 5;
 
 void setUpPictureButton(QPushButton* button, const char* objectName, const QString& name)
 {
@@ -196,8 +200,8 @@ void WMRNode::layOut()
 
 void WMRNode::layOutKindForm()
 {
-    // Little, because a form keeps the spacing of its hidden rows.
-    m_kindForm->setVerticalSpacing(3);
+    // None, because a form keeps the spacing of its hidden rows: their captions hold rows apart.
+    m_kindForm->setVerticalSpacing(0);
     m_kindForm->addRow(tr("Kind:"), m_kind);
     addRow(m_kindForm, tr("Logo:"), m_logoRow, m_imageNameEdit);
     m_kindForm->addRow(tr("Expand:"), m_expandButton);
@@ -205,6 +209,16 @@ void WMRNode::layOutKindForm()
     m_kindForm->addRow(tr("Font:"), m_fontBox);
     m_kindForm->addRow(tr("Text color:"), m_textColor);
     addRow(m_kindForm, tr("Background:"), m_backgroundRow, m_backgroundColor);
+
+    int widest = 0;
+    for (int row = 0; row < m_kindForm->rowCount(); ++row) {
+        QWidget* const caption = m_kindForm->itemAt(row, QFormLayout::LabelRole)->widget();
+        caption->setMinimumHeight(row < kFirstSwatchRow ? kRowHeight : kSwatchRowHeight);
+        caption->ensurePolished();
+        widest = std::max(widest, caption->sizeHint().width());
+    }
+    // As wide for both kinds, so that the page stays where it is when the kind changes.
+    m_kindForm->labelForField(m_kind)->setMinimumWidth(widest);
 }
 
 void WMRNode::layOutSettingsForm()
@@ -213,6 +227,10 @@ void WMRNode::layOutSettingsForm()
     m_settingsForm->addRow(tr(kTransparency.caption), m_transparency);
     m_settingsForm->addRow(tr(kSize.caption), m_size);
     addRow(m_settingsForm, tr("Position:"), m_positionRow, m_position);
+    // Room for the unit that it hasn't, so that the numbers stand under each other.
+    QLabel unit(QLatin1String(kSize.unit), this);
+    unit.ensurePolished();
+    m_transparency->setContentsMargins(0, 0, unit.sizeHint().width(), 0);
 }
 
 void WMRNode::connectControls()

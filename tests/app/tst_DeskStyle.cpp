@@ -1,0 +1,180 @@
+#include "app/Startup.h"
+#include "app/StyleSheet.h"
+#include "SheetRules.h"
+#include "support/TestMain.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QMWidgets/App.h>
+#include <QPainter>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTabBar>
+
+namespace
+{
+
+const QColor kDesk(71, 71, 71);
+const QColor kAccent(0xff, 0xb0, 0x2e);
+
+QImage imageOf(QWidget* widget)
+{
+    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(kDesk);
+    QPainter painter(&image);
+    widget->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    return image;
+}
+
+int countPixels(const QImage& image, const QColor& color)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += image.pixel(x, y) == color.rgb() ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+} // namespace
+
+/// The sheet and the style under it, as they come to the screen.
+class TestDeskStyle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { setUpApplication(*QMWidgets::App::app()); }
+    void cleanupTestCase() { qApp->setStyleSheet(QString()); }
+
+    void showsWhereTheKeyboardIs_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const QString& name : SheetRules(applicationStyleSheet()).objectNames()) {
+            if (name.contains(QLatin1String("Button"))) {
+                QTest::newRow(qPrintable(name)) << name;
+            }
+        }
+        for (const char* const kind : {"QSlider", "QSpinBox", "QComboBox", "QListWidget", "QTabBar",
+                                       "QCheckBox", "QLineEdit"}) {
+            QTest::newRow(kind) << QString();
+        }
+    }
+    void showsWhereTheKeyboardIs()
+    {
+        QFETCH(QString, name);
+        QWidget window;
+        window.resize(300, 300);
+        QWidget* const widget =
+            makeFocusable(QLatin1String(QTest::currentDataTag()), name, &window);
+        auto* const other = new QLineEdit(&window);
+        other->setGeometry(0, 250, 100, 30);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        other->setFocus();
+        const int before = countPixels(imageOf(widget), kAccent);
+        widget->setFocus(Qt::TabFocusReason);
+        QVERIFY(widget->hasFocus());
+        // A ring, so at least its straight parts.
+        QVERIFY(countPixels(imageOf(widget), kAccent) >= before + 20);
+    }
+
+    void slidersKeepTheirTicks()
+    {
+        QSlider slider(Qt::Horizontal);
+        slider.setRange(-100, 100);
+        slider.setTickInterval(20);
+        slider.resize(220, 26);
+        slider.ensurePolished();
+        const QColor fill = slider.palette().color(QPalette::Highlight);
+        const QColor ticks = slider.palette().color(QPalette::WindowText);
+
+        slider.setValue(0);
+        const int rimOnly = countPixels(imageOf(&slider), ticks);
+        QCOMPARE(countPixels(imageOf(&slider), fill), 0);
+        slider.setTickPosition(QSlider::TicksAbove);
+        const int oneSide = countPixels(imageOf(&slider), ticks) - rimOnly;
+        slider.setTickPosition(QSlider::TicksBothSides);
+        // Eleven ticks above; the handle stands over the one in the middle.
+        QVERIFY2(oneSide >= 30 && oneSide <= 33, qPrintable(QString::number(oneSide)));
+        QCOMPARE(countPixels(imageOf(&slider), ticks) - rimOnly, 2 * oneSide);
+
+        // Filled from zero to the handle on either side; nothing beyond a handle at an end.
+        slider.setValue(100);
+        const QImage full = imageOf(&slider);
+        QVERIFY(countPixels(full, fill) > 0);
+        QCOMPARE(countPixels(full.copy(0, 0, 108, 26), fill), 0);
+        slider.setRange(1, 100);
+        slider.setValue(1);
+        QCOMPARE(countPixels(imageOf(&slider), fill), 0);
+    }
+
+    void slidersTakeTheHandleToTheMouse()
+    {
+        QSlider slider(Qt::Horizontal);
+        slider.setRange(0, 200);
+        slider.resize(220, 26);
+        slider.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&slider));
+        for (const int value : {0, 50, 200}) {
+            const QPoint handle(10 + slider.value(), 13);
+            QTest::mousePress(&slider, Qt::LeftButton, {}, handle);
+            QMouseEvent move(QEvent::MouseMove, QPoint(10 + value, 13), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&slider, &move);
+            QTest::mouseRelease(&slider, Qt::LeftButton, {}, QPoint(10 + value, 13));
+            QCOMPARE(slider.value(), value);
+        }
+    }
+
+    void menusLetTheirCornersThrough()
+    {
+        QMenu menu;
+        menu.addAction(QStringLiteral("Entry"));
+        menu.resize(menu.sizeHint());
+        QCOMPARE(menu.grab().toImage().pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(menu.grab().toImage().pixelColor(menu.rect().center()).alpha(), 255);
+    }
+
+private:
+    QWidget* makeFocusable(const QString& kind, const QString& name, QWidget* parent)
+    {
+        QWidget* widget = nullptr;
+        if (kind == QLatin1String("QSlider")) {
+            widget = new QSlider(Qt::Horizontal, parent);
+        } else if (kind == QLatin1String("QSpinBox")) {
+            widget = new QSpinBox(parent);
+        } else if (kind == QLatin1String("QComboBox")) {
+            widget = new QComboBox(parent);
+        } else if (kind == QLatin1String("QListWidget")) {
+            widget = new QListWidget(parent);
+        } else if (kind == QLatin1String("QTabBar")) {
+            auto* const bar = new QTabBar(parent);
+            bar->addTab(QStringLiteral("Tab"));
+            widget = bar;
+        } else if (kind == QLatin1String("QCheckBox")) {
+            widget = new QCheckBox(QStringLiteral("Check"), parent);
+        } else if (kind == QLatin1String("QLineEdit")) {
+            widget = new QLineEdit(parent);
+        } else {
+            auto* const button = new QPushButton(parent);
+            button->setObjectName(name);
+            button->setFlat(true);
+            widget = button;
+        }
+        widget->setFocusPolicy(Qt::StrongFocus);
+        widget->ensurePolished();
+        widget->resize(widget->sizeHint().expandedTo(QSize(24, 18)));
+        return widget;
+    }
+};
+
+TESSARIN_TEST(TestDeskStyle);
+#include "tst_DeskStyle.moc"

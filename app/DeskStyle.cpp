@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <QMenu>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleOptionSlider>
 
 namespace
@@ -13,7 +14,8 @@ constexpr int kGroove = 4;
 constexpr int kTick = 3;
 constexpr int kTickGap = 3; ///< between groove and ticks
 constexpr int kMenuIcon = 24;
-constexpr int kCrowded = 5; ///< ticks nearer than this run into a bar
+constexpr int kMenuMaskRadius = 4; ///< less than the sheet's radius of 5
+constexpr int kCrowded = 5;        ///< ticks nearer than this run into a bar
 
 bool isHorizontal(const QStyleOptionSlider* slider)
 {
@@ -150,6 +152,20 @@ QPixmap DeskStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
     // A photo keeps its colours in a selected row.
     return mode == QIcon::Selected ? pixmap
                                    : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+}
+
+int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returned) const
+{
+    auto* const mask = qstyleoption_cast<QStyleHintReturnMask*>(returned);
+    if (hint == SH_Menu_Mask && option && mask) {
+        // For screens on which windows can't be seen through: as far out as the frame's soft edge.
+        QPainterPath frame;
+        frame.addRoundedRect(option->rect, kMenuMaskRadius, kMenuMaskRadius);
+        mask->region = QRegion(frame.toFillPolygon().toPolygon());
+        return true;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returned);
 }
 
 int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,

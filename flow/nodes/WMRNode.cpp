@@ -38,7 +38,9 @@ constexpr const SliderParameter& kSize = kSliders[0];
 constexpr const SliderParameter& kTransparency = kSliders[1];
 
 /// Width of the wide fields. Font names can be long, and both kinds of mark share the page.
-constexpr int kFieldWidth = 220;
+constexpr int kFieldWidth = 204;
+constexpr int kPictureButton = 24;
+constexpr int kSliderWidth = 200;
 constexpr int kRowHeight = 27;
 constexpr int kSwatchRowHeight = 31;
 constexpr int kFirstSwatchRow = 5;
@@ -49,7 +51,7 @@ void setUpPictureButton(QPushButton* button, const char* objectName, const QStri
     button->setAccessibleName(name);
     button->setToolTip(name);
     button->setFlat(true);
-    button->setFixedSize(24, 24);
+    button->setFixedSize(kPictureButton, kPictureButton);
 }
 
 void setUpSwatch(ColorWidget* swatch, const QColor& color, const QString& name)
@@ -130,6 +132,7 @@ void WMRNode::setUpTextControls()
     for (QPushButton* button : {m_boldButton, m_italicButton, m_underlinedButton}) {
         button->setCheckable(true);
     }
+    m_textEdit->setFixedWidth(kFieldWidth - 3 * kPictureButton);
     m_fontBox->setFixedWidth(kFieldWidth);
     // The box shows the family that was found for the default font, but tells the one asked for.
     m_fontBox->setCurrentFont(WMRXml::readFont(m_fontBox->currentText()));
@@ -148,6 +151,7 @@ void WMRNode::setUpLogoControls()
     setUpPictureButton(m_browseButton, "WMRBrowseButton", tr("Open the watermark file"));
     setUpPictureButton(m_expandButton, "WMRShrinkButton", tr("Expand"));
     m_expandButton->setCheckable(true);
+    m_imageNameEdit->setFixedWidth(kFieldWidth - kPictureButton);
 }
 
 void WMRNode::setUpPlacementControls()
@@ -196,6 +200,7 @@ void WMRNode::layOut()
     optionsLayout()->addStretch(1);
     optionsLayout()->addLayout(row);
     optionsLayout()->addStretch(1);
+    evenOutCaptions(); // the captions are within the page now, so they have its font
 }
 
 void WMRNode::layOutKindForm()
@@ -209,7 +214,10 @@ void WMRNode::layOutKindForm()
     m_kindForm->addRow(tr("Font:"), m_fontBox);
     m_kindForm->addRow(tr("Text color:"), m_textColor);
     addRow(m_kindForm, tr("Background:"), m_backgroundRow, m_backgroundColor);
+}
 
+void WMRNode::evenOutCaptions()
+{
     int widest = 0;
     for (int row = 0; row < m_kindForm->rowCount(); ++row) {
         QWidget* const caption = m_kindForm->itemAt(row, QFormLayout::LabelRole)->widget();
@@ -231,6 +239,7 @@ void WMRNode::layOutSettingsForm()
     QLabel unit(QLatin1String(kSize.unit), this);
     unit.ensurePolished();
     m_transparency->setContentsMargins(0, 0, unit.sizeHint().width(), 0);
+    m_size->setMinimumWidth(kSliderWidth);
 }
 
 void WMRNode::connectControls()

@@ -42,6 +42,8 @@ private:
     void setUpPlacementControls();
     void layOut();
     void layOutKindForm();
+    /// Holds the form's rows apart, and its columns where they are for both kinds.
+    void evenOutCaptions();
     void layOutSettingsForm();
     void connectControls();
     void bindControls();

@@ -1,11 +1,15 @@
+#include "app/MainPage.h"
 #include "app/Startup.h"
 #include "app/StyleSheet.h"
+#include "flow/BaseNode.h"
+#include "flow/FlowPanel.h"
 #include "SheetRules.h"
 #include "support/TestMain.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -132,6 +136,25 @@ private slots:
             QTest::mouseRelease(&slider, Qt::LeftButton, {}, QPoint(10 + value, 13));
             QCOMPARE(slider.value(), value);
         }
+    }
+
+    void theWatermarkPageStaysPutWhenItsKindChanges()
+    {
+        MainPage page(nullptr);
+        auto* const node = page.findChild<FlowPanel*>()->addNode(QStringLiteral("Watermark"));
+        page.show();
+        auto* const kind = node->findChild<QComboBox*>();
+        auto* const box = node->findChild<QGroupBox*>();
+        const auto placeOf = [&page](QWidget* widget) {
+            return QRect(widget->mapTo(&page, QPoint(0, 0)), widget->size());
+        };
+        const QRect boxInText = placeOf(box);
+        const QRect kindInText = placeOf(kind);
+        kind->setCurrentIndex(1);
+        QTRY_VERIFY(placeOf(kind).top() != kindInText.top()); // fewer rows, in the middle again
+        QCOMPARE(placeOf(box), boxInText);
+        QCOMPARE(placeOf(kind).left(), kindInText.left());
+        QVERIFY(page.rect().contains(boxInText));
     }
 
     void menusLetTheirCornersThrough()

@@ -21,6 +21,7 @@ const QVector<Scene>& scenes()
         {QStringLiteral("bubbles"), QStringLiteral("Look closer at a step of the flow"),
          showBubbles},
         {QStringLiteral("menus"), QStringLiteral("All menus"), showMenus},
+        {QStringLiteral("dialogs"), QStringLiteral("Questions, warnings and choices"), showDialogs},
         {QStringLiteral("states"), QStringLiteral("Buttons and fields in all states"), showStates},
         {QStringLiteral("settings"), QStringLiteral("Choose format and names"), chooseSettings},
         {QStringLiteral("updates"), QStringLiteral("Hear of a newer release"), checkUpdates},

@@ -14,6 +14,7 @@ void showBubbles(Stage& stage);
 void showMenus(Stage& stage);
 void chooseSettings(Stage& stage);
 void checkUpdates(Stage& stage);
+void showDialogs(Stage& stage);
 void showStates(Stage& stage);
 void showEachOperation(Stage& stage);
 void saveResults(Stage& stage);

@@ -14,6 +14,7 @@ constexpr int kGroove = 4;
 constexpr int kTick = 3;
 constexpr int kTickGap = 3; ///< between groove and ticks
 constexpr int kMenuIcon = 24;
+constexpr int kMessageSign = 48;
 constexpr int kMenuMaskRadius = 4; ///< less than the sheet's radius of 5
 constexpr int kCrowded = 5;        ///< ticks nearer than this run into a bar
 
@@ -152,6 +153,27 @@ QPixmap DeskStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
     // A photo keeps its colours in a selected row.
     return mode == QIcon::Selected ? pixmap
                                    : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+}
+
+QPixmap DeskStyle::standardPixmap(StandardPixmap picture, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    // By way of an icon, which takes the picture's twin on a dense screen.
+    const auto sign = [](const QString& path) {
+        return QIcon(path).pixmap(kMessageSign, kMessageSign);
+    };
+    switch (picture) {
+    case SP_MessageBoxInformation:
+        return sign(QStringLiteral(":/message_information.png"));
+    case SP_MessageBoxWarning:
+        return sign(QStringLiteral(":/message_warning.png"));
+    case SP_MessageBoxCritical:
+        return sign(QStringLiteral(":/message_critical.png"));
+    case SP_MessageBoxQuestion:
+        return sign(QStringLiteral(":/message_question.png"));
+    default:
+        return QProxyStyle::standardPixmap(picture, option, widget);
+    }
 }
 
 int DeskStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

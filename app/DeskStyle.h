@@ -5,7 +5,8 @@
 /// What lies under the style sheet on every desktop: the few things that a sheet can't say. Sliders
 /// keep their ticks, since the toolkit paints none beside a groove that a sheet draws; their
 /// colours come from the sheet all the same, as the slider's text and selection colours. Menus get
-/// windows that show what lies behind their round corners, and thumbnails their own colours.
+/// windows that show what lies behind their round corners, thumbnails their own colours, and
+/// messages signs of the program's own drawing.
 class DeskStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -21,6 +22,8 @@ public:
                          SubControl subControl, const QWidget* widget) const override;
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
                                 const QStyleOption* option) const override;
+    QPixmap standardPixmap(StandardPixmap picture, const QStyleOption* option,
+                           const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option,

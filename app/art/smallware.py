@@ -1,7 +1,7 @@
 """The small parts of controls, the icons of menu rows, and the pictures of the update box."""
 
 import glyphs
-from buttons import ON, ON_HOVER, sign
+from buttons import ON, ON_HOVER, UMBER, sign
 from canvas import ACCENT, BRIGHT, COAL, INK, circle, gradient, lifted, line, path, rect, twins
 
 GREYED = ("#484848", "#3c3c3c", "#6a6a6a", 0.0, "#7a7a7a", "#7a7a7a")
@@ -68,6 +68,26 @@ def update(available):
     return lifted(*parts)
 
 
+def coin(top, bottom, *parts):
+    """A round sign of a message, 48 by 48."""
+    return f"<defs>{gradient('coin', top, bottom)}</defs>" + lifted(
+        circle(24, 23.5, 20, fill="url(#coin)", stroke=INK, stroke_width=3), *parts)
+
+
+def messages():
+    """What a dialog has to say, told by shape as well as by colour."""
+    yield "message_information", coin(
+        "#3a3a3a", "#161616", circle(24, 14.5, 3, fill=ACCENT), line("M24 22.5V33.5", ACCENT, 5))
+    yield "message_question", coin(
+        "#3a3a3a", "#161616", circle(24, 34, 2.9, fill=ACCENT),
+        line("M17.6 18.4C17.6 14.8 20.2 12.4 24 12.4C27.8 12.4 30.4 14.8 30.4 18C30.4 22.6 24 22.6 24 27.4",
+             ACCENT, 4.6))
+    yield "message_critical", coin("#ef5a50", "#a81f18", line("M16.5 16L31.5 31M31.5 16L16.5 31", BRIGHT, 5))
+    yield "message_warning", lifted(
+        path("M24 6L43.5 41H4.5Z", fill="url(#lamp)", stroke=INK, stroke_width=3, stroke_linejoin="round"),
+        line("M24 17.5V28.5", UMBER, 5), circle(24, 35, 2.9, fill=UMBER))
+
+
 def pictures():
     yield "dart", 20, 20, knob(BRASS)
     yield "dart_hvr", 20, 20, knob(BRASS_LIT)
@@ -88,5 +108,7 @@ def pictures():
     yield "check_on_dis", 14, 14, check(GREYED, True)
     for name, draw in ROWS.items():
         yield name, 24, 24, menu_icon(draw)
+    for name, drawing in messages():
+        yield from twins(name, 48, 48, drawing)
     yield from twins("update_available", 128, 128, update(True))
     yield from twins("update_not_available", 128, 128, update(False))

@@ -4,6 +4,8 @@
 #include <QMWidgets/InputDialog.h>
 #include <QMWidgets/MMessageBox.h>
 
+#include <QFileDialog>
+
 namespace
 {
 
@@ -34,5 +36,12 @@ void showDialogs(Stage& stage)
     shootOpen(stage, QStringLiteral("input"), input);
 
     FavoritesDeleteDlg favorites(nullptr);
+    favorites.addFlow(QStringLiteral("portrait.flow"));
+    favorites.addFlow(QStringLiteral("holiday.flow"));
     shootOpen(stage, QStringLiteral("delete"), favorites);
+
+    // Where the desktop has no file dialog of its own, the toolkit's is dressed too.
+    QFileDialog files(nullptr, QString(), stage.photos().value(0).section(QLatin1Char('/'), 0, -2));
+    files.setOption(QFileDialog::DontUseNativeDialog);
+    shootOpen(stage, QStringLiteral("files"), files);
 }

@@ -44,12 +44,17 @@ def program_sign(plain=False):
         '<defs><radialGradient id="light"><stop offset="0" stop-color="#fff3da"/><stop offset=".5" '
         f'stop-color="#ffc766"/><stop offset="1" stop-color="{ACCENT}"/></radialGradient>'
         '<linearGradient id="edge" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#ffffff" '
-        'stop-opacity=".5"/><stop offset="1" stop-color="#ffffff" stop-opacity="0"/></linearGradient></defs>'
+        'stop-opacity=".5"/><stop offset="1" stop-color="#ffffff" stop-opacity="0"/></linearGradient>'
+        '<linearGradient id="sheen" x1="0" y1="0" x2="0" y2="1"><stop offset="0" stop-color="#ffffff" '
+        'stop-opacity=".3"/><stop offset=".55" stop-color="#ffffff" stop-opacity="0"/><stop offset="1" '
+        'stop-color="#000000" stop-opacity=".3"/></linearGradient></defs>'
     )
+    hole = "L".join(f"{x:.2f} {y:.2f}" for x, y in (point(44, -68 + 90 * i) for i in range(4)))
     lens = group(
         circle(0, 0, 97, fill=COAL),
-        circle(0, 0, 60, fill="url(#light)"),
         aperture(4, 90, 44, -68, ("#f4f4f4", "#c6c6c6", "#8b8b8b", "#b0b0b0")),
+        circle(0, 0, 90, fill="url(#sheen)"),
+        path(f"M{hole}Z", fill="url(#light)", stroke=COAL, stroke_width=90 / 28, stroke_linejoin="round"),
         transform=f"translate(128 128) scale({1.28 if plain else 1})",
     )
     if plain:

@@ -18,7 +18,7 @@ from canvas import SCALE, page
 HERE = pathlib.Path(__file__).resolve().parent
 RESOURCES = HERE.parent / "resources"
 ROOMS = ("nodes", "scenes", "buttons", "smallware", "marks")
-ICON_SIZES = (16, 24, 32, 48, 64, 128, 256)
+ICON_SIZES = (16, 24, 32, 48, 64, 128, 256, 512)
 
 
 def rasterize(svg, target):

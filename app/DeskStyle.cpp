@@ -1,6 +1,7 @@
 #include "app/DeskStyle.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>

@@ -16,13 +16,13 @@ LOADING_FRAMES = 12
 
 
 def arrow(step):
-    """The arrow to the add button: it dips towards its tip and comes back."""
+    """The arrow to the middle of the add button: it dips towards its tip and comes back."""
     dip = 8.0 * (0.5 - 0.5 * math.cos(2 * math.pi * step / ARROW_FRAMES))
     body = path(
         "M86 8C56 8 40 24 38 46H22L46 78L70 46H56C58 34 68 26 88 25Z",
         fill="url(#lamp)", stroke=COAL, stroke_width=4, stroke_linejoin="round",
     )
-    return group(body, transform=f"translate({-0.35 * dip:.2f} {dip + 6:.2f})")
+    return group(body, transform=f"translate({-14 - 0.35 * dip:.2f} {dip + 6:.2f})")
 
 
 def loading(step):

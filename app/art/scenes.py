@@ -61,7 +61,7 @@ def first_steps():
     chain.pop()
     return "".join(
         [
-            line("M124 62C96 62 78 70 66 92", ACCENT, 3, stroke_dasharray="1 8"),
+            line("M124 62C94 62 70 68 56 89", ACCENT, 3, stroke_dasharray="1 8"),
             text(136, 72, 28, "Add an operation", font_weight="bold"),
             text(137, 106, 15, "Press the round + and pick a step.", fill="#dedede"),
             text(137, 128, 15, "Steps run from left to right.", fill="#dedede"),

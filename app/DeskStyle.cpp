@@ -50,20 +50,21 @@ int restOf(const QStyleOptionSlider& slider)
     return qBound(slider.minimum, 0, slider.maximum);
 }
 
+/// Zero where ticks would run into a bar.
 int tickStep(const QStyleOptionSlider& slider)
 {
-    const auto apart = [&slider](int step) {
-        return QStyle::sliderPositionFromValue(0, slider.maximum - slider.minimum, step,
-                                               travel(slider));
+    const qint64 range = qint64(slider.maximum) - slider.minimum;
+    const auto isClear = [&](int step) {
+        return step > 0 && step * qint64(travel(slider)) >= kCrowded * range;
     };
     const int step = slider.tickInterval > 0 ? slider.tickInterval : slider.singleStep;
-    return apart(step) < kCrowded ? std::max(slider.pageStep, step) : step;
+    return isClear(step) ? step : isClear(slider.pageStep) ? slider.pageStep : 0;
 }
 
 void drawTicks(QPainter& painter, const QStyleOptionSlider& slider)
 {
     const int step = tickStep(slider);
-    if (step <= 0 || slider.tickPosition == QSlider::NoTicks) {
+    if (step == 0 || slider.tickPosition == QSlider::NoTicks) {
         return;
     }
     const QRect groove = grooveOf(slider);

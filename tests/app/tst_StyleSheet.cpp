@@ -26,17 +26,6 @@ namespace
 /// Names of windows that aren't built yet. Each window takes its own from here.
 const QStringList kNotYetStanding = {
     QStringLiteral("LogoLabel"),
-    QStringLiteral("ImageViewer"),
-    QStringLiteral("ImageViewSlider"),
-    QStringLiteral("ImageLoadingLabel"),
-    QStringLiteral("FitToScreenButton"),
-    QStringLiteral("ZoomInButton"),
-    QStringLiteral("ZoomOutButton"),
-    QStringLiteral("SysPreviewButton"),
-    QStringLiteral("ActualPixelsButton"),
-    QStringLiteral("PreviewButton"),
-    QStringLiteral("ThumbnailPreviewButton"),
-    QStringLiteral("BubbleLabel"),
     QStringLiteral("HelpSlideButton"),
     QStringLiteral("FaceBookJoinButton"),
     QStringLiteral("VKontakteJoinButton"),

@@ -25,16 +25,11 @@ namespace
 
 /// Names of windows that aren't built yet. Each window takes its own from here.
 const QStringList kNotYetStanding = {
-    QStringLiteral("LogoLabel"),
-    QStringLiteral("HelpSlideButton"),
-    QStringLiteral("FaceBookJoinButton"),
-    QStringLiteral("VKontakteJoinButton"),
-    QStringLiteral("TwitterJoinButton"),
-    QStringLiteral("EmailJoinButton"),
-    QStringLiteral("FaceBookShareButton"),
-    QStringLiteral("VKontakteShareButton"),
-    QStringLiteral("TwitterShareButton"),
-    QStringLiteral("EmailShareButton"),
+    QStringLiteral("LogoLabel"),           QStringLiteral("HelpSlideButton"),
+    QStringLiteral("FaceBookJoinButton"),  QStringLiteral("VKontakteJoinButton"),
+    QStringLiteral("TwitterJoinButton"),   QStringLiteral("EmailJoinButton"),
+    QStringLiteral("FaceBookShareButton"), QStringLiteral("VKontakteShareButton"),
+    QStringLiteral("TwitterShareButton"),  QStringLiteral("EmailShareButton"),
 };
 
 const QColor kDesk(71, 71, 71);

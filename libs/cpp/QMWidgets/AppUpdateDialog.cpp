@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -28,9 +29,10 @@ AppUpdateDialog::AppUpdateDialog(bool hasNewerVersion, QWidget* parent)
                   tr(" is available.<br>Go to the updates web page?</H2></CENTER>")
             : tr("<CENTER><H2>You are using the latest version available.<br>Go to the updates web "
                  "page anyway?</H2></CENTER>"));
-    m_pictureLabel->setPixmap(QPixmap(hasNewerVersion
-                                          ? QStringLiteral(":/update_available.png")
-                                          : QStringLiteral(":/update_not_available.png")));
+    // By way of an icon, which takes the picture's twin on a dense screen.
+    const QIcon picture(hasNewerVersion ? QStringLiteral(":/update_available.png")
+                                        : QStringLiteral(":/update_not_available.png"));
+    m_pictureLabel->setPixmap(picture.pixmap(128, 128));
     m_pictureLabel->setAlignment(Qt::AlignHCenter);
 
     auto* const yes = new QPushButton(tr("Yes"), this);

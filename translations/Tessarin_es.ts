@@ -142,7 +142,7 @@
     <name>CreatorDropArea</name>
     <message>
         <source>Click to open the photos</source>
-        <translation>Haga clic para abrir las fotos</translation>
+        <translation>Abrir las fotos</translation>
     </message>
     <message>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>

@@ -142,7 +142,7 @@
     <name>CreatorDropArea</name>
     <message>
         <source>Click to open the photos</source>
-        <translation>फ़ोटो खोलने के लिए क्लिक करें</translation>
+        <translation>फ़ोटो खोलें</translation>
     </message>
     <message>
         <source>&lt;H2&gt;Drop the photos here&lt;/H2&gt;</source>

@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>&amp;Ausblenden</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>Rechtliche Hinweise</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -217,6 +221,10 @@
     <message>
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;An Fenster angepasst&lt;/H1&gt;</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>&amp;Ocultar</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>Avisos legales</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -186,7 +190,7 @@
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation>Haga clic para abrir las fotos</translation>
+        <translation>Abrir las fotos</translation>
     </message>
     <message>
         <source>Open the photos</source>
@@ -217,6 +221,10 @@
     <message>
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;Ajustado a la ventana&lt;/H1&gt;</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>&amp;Masquer</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>Mentions légales</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -186,7 +190,7 @@
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation>Cliquer pour ouvrir des photos</translation>
+        <translation>Ouvrir des photos</translation>
     </message>
     <message>
         <source>Open the photos</source>
@@ -217,6 +221,10 @@
     <message>
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;Ajusté à la fenêtre&lt;/H1&gt;</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>छिपाएँ(&amp;H)</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>कानूनी सूचनाएँ</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -186,7 +190,7 @@
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation>फ़ोटो खोलने के लिए क्लिक करें</translation>
+        <translation>फ़ोटो खोलें</translation>
     </message>
     <message>
         <source>Open the photos</source>
@@ -217,6 +221,10 @@
     <message>
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;विंडो में फ़िट&lt;/H1&gt;</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>चित्र</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>숨기기(&amp;H)</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>법적 고지</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -218,6 +222,10 @@
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;창에 맞춤&lt;/H1&gt;</translation>
     </message>
+    <message>
+        <source>Picture</source>
+        <translation>그림</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::ImageViewer</name>
@@ -275,7 +283,7 @@
     <name>QMWidgets::JoinWidget</name>
     <message>
         <source>Join us and stay informed&lt;br&gt;about our</source>
-        <translation>함께하고 새 소식을 받아 보세요&lt;br&gt;소식 내용:</translation>
+        <translation>함께하고 새 소식을 받아 보세요&lt;br&gt;아래의 소식을</translation>
     </message>
     <message>
         <source>   1. FREE APP Actions&lt;br&gt;</source>

@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>&amp;Ocultar</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>Avisos legais</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -217,6 +221,10 @@
     <message>
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;Ajustado à janela&lt;/H1&gt;</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagem</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>&amp;Скрыть</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>Правовые сведения</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -186,7 +190,7 @@
     </message>
     <message>
         <source>Click to open the photos</source>
-        <translation>Нажмите, чтобы открыть фото</translation>
+        <translation>Открыть фотографии</translation>
     </message>
     <message>
         <source>Open the photos</source>
@@ -217,6 +221,10 @@
     <message>
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;По размеру окна&lt;/H1&gt;</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Изображение</translation>
     </message>
 </context>
 <context>

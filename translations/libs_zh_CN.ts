@@ -19,6 +19,10 @@
         <source>&amp;Hide</source>
         <translation>隐藏(&amp;H)</translation>
     </message>
+    <message>
+        <source>Legal Notices</source>
+        <translation>法律声明</translation>
+    </message>
 </context>
 <context>
     <name>QMWidgets::App</name>
@@ -217,6 +221,10 @@
     <message>
         <source>&lt;H1&gt;Fit to Window&lt;/H1&gt;</source>
         <translation>&lt;H1&gt;适合窗口&lt;/H1&gt;</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图像</translation>
     </message>
 </context>
 <context>

@@ -1,36 +1,17 @@
-#include "app/MainPage.h"
+#include "AllWindows.h"
 #include "app/Startup.h"
 #include "app/StyleSheet.h"
-#include "batch/AppSettingsDialog.h"
-#include "batch/BatchDialog.h"
-#include "flow/FavoritesDeleteDlg.h"
-#include "flow/FlowPanel.h"
-#include "flow/Operations.h"
 #include "SheetRules.h"
 #include "support/TestMain.h"
 
 #include <cmath>
 #include <QApplication>
 #include <QDir>
-#include <QLineEdit>
-#include <QMWidgets/App.h>
-#include <QMWidgets/DropWidget.h>
-#include <QMWidgets/InputDialog.h>
-#include <QMWidgets/MMessageBox.h>
 #include <QPushButton>
 #include <QRegularExpression>
 
 namespace
 {
-
-/// Names of windows that aren't built yet. Each window takes its own from here.
-const QStringList kNotYetStanding = {
-    QStringLiteral("LogoLabel"),           QStringLiteral("HelpSlideButton"),
-    QStringLiteral("FaceBookJoinButton"),  QStringLiteral("VKontakteJoinButton"),
-    QStringLiteral("TwitterJoinButton"),   QStringLiteral("EmailJoinButton"),
-    QStringLiteral("FaceBookShareButton"), QStringLiteral("VKontakteShareButton"),
-    QStringLiteral("TwitterShareButton"),  QStringLiteral("EmailShareButton"),
-};
 
 const QColor kDesk(71, 71, 71);
 
@@ -40,25 +21,6 @@ void collectMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 {
     s_messages.append(text);
 }
-
-/// Every window of the program that stands.
-struct Windows {
-    MainPage page{nullptr};
-    QMWidgets::DropWidget dropWindow{nullptr};
-    AppSettingsDialog settings{nullptr};
-    BatchDialog batch;
-    FavoritesDeleteDlg favorites{nullptr};
-    QMWidgets::MMessageBox message{1, QString(), QString(), QMessageBox::Ok, nullptr};
-    QMWidgets::InputDialog input{QString(), nullptr, nullptr, {}, 0};
-
-    Windows()
-    {
-        QMWidgets::App::app()->setMainWidget(&page);
-        for (const Operation& operation : operations()) {
-            page.findChild<FlowPanel*>()->addNode(operation.name);
-        }
-    }
-};
 
 struct OtherPicture {
     const char* pattern;
@@ -183,7 +145,7 @@ private slots:
         {
             qApp->setStyleSheet(QString());
             qApp->setStyleSheet(applicationStyleSheet());
-            Windows windows;
+            AllWindows windows;
             for (QWidget* window : QApplication::topLevelWidgets()) {
                 window->ensurePolished();
                 window->grab();
@@ -195,8 +157,8 @@ private slots:
 
     void selectsOnNamesThatExist()
     {
-        Windows windows;
-        QSet<QString> names(kNotYetStanding.begin(), kNotYetStanding.end());
+        AllWindows windows;
+        QSet<QString> names;
         for (const QWidget* widget : QApplication::allWidgets()) {
             names.insert(widget->objectName());
         }
@@ -208,7 +170,7 @@ private slots:
     void knowsEveryFlatButtonWithAName()
     {
         // A flat button that the sheet doesn't draw is not seen at all.
-        Windows windows;
+        AllWindows windows;
         const QStringList known = m_rules.objectNames();
         int count = 0;
         for (QWidget* widget : QApplication::allWidgets()) {

@@ -52,6 +52,7 @@ AboutDialog::AboutDialog(QWidget* parent)
     connect(m_legalButton, &QPushButton::clicked, this, &AboutDialog::slotLegalNoticesClicked);
     connect(okButton, &QPushButton::clicked, this, &AboutDialog::slotOkClicked);
 
+    m_legalBrowser->setAccessibleName(tr("Legal Notices"));
     m_legalBrowser->setReadOnly(true);
     m_legalBrowser->setOpenExternalLinks(true);
     m_legalBrowser->hide();

@@ -50,6 +50,7 @@ ImageArea::ImageArea(QWidget* parent)
     m_imageLabel->setObjectName(QStringLiteral("PreviewLabel"));
     m_imageLabel->setAlignment(Qt::AlignCenter);
     m_scrollArea->setWidget(m_imageLabel);
+    followLanguage(m_scrollArea, [this] { m_scrollArea->setAccessibleName(tr("Picture")); });
     m_scrollArea->setFrameShape(QFrame::NoFrame);
 
     m_loadingMovie.setScaledSize(QSize(kMovieSize, kMovieSize));

@@ -17,9 +17,11 @@ const QColor kDesk(71, 71, 71);
 
 QStringList s_messages;
 
-void collectMessage(QtMsgType, const QMessageLogContext&, const QString& text)
+void collectWarning(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    s_messages.append(text);
+    if (type != QtDebugMsg) {
+        s_messages.append(text);
+    }
 }
 
 struct OtherPicture {
@@ -141,7 +143,7 @@ private slots:
     void setsItselfUpOnAllWindowsWithoutAWarning()
     {
         s_messages.clear();
-        const QtMessageHandler handler = qInstallMessageHandler(collectMessage);
+        const QtMessageHandler handler = qInstallMessageHandler(collectWarning);
         {
             qApp->setStyleSheet(QString());
             qApp->setStyleSheet(applicationStyleSheet());

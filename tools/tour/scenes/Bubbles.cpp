@@ -28,11 +28,8 @@ void showBubbles(Stage& stage)
         stage.shoot(QStringLiteral("button"));
         stage.click(button);
         stage.waitFor(
-            [bubble] {
-                const QAbstractAnimation* const flight = bubble->showAnimation();
-                return bubble->isVisible() && flight &&
-                       flight->state() == QAbstractAnimation::Stopped;
-            },
+            // Its flight is gone when it has arrived.
+            [bubble] { return bubble->isVisible() && !bubble->showAnimation(); },
             QStringLiteral("the bubble"));
         stage.shootTogether(QStringLiteral("bubble"), {stage.page(), bubble});
         // A press is enough, wherever it falls: here on the free place of the bar.

@@ -8,7 +8,9 @@
 #include "support/TestMain.h"
 
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QTimer>
 
 /// The source panel with its options panel and three photos of different sizes.
 class SourcePanel
@@ -67,6 +69,24 @@ private slots:
         QVERIFY(!square->isVisible());
         QCOMPARE(panel.changed.count(), 2);
         QCOMPARE(panel.view()->currentIndex().row(), 2);
+    }
+
+    void newPhotosMayComeInTheRunOfTheStrip()
+    {
+        SourcePanel panel;
+        const QUrl photo = panel.photos.add(QStringLiteral("d.png"), QSize(40, 40));
+        QList<QUrl> many;
+        for (int i = 0; i < 100; ++i) {
+            many += photo;
+        }
+        panel.creator.setFiles(many);
+        panel.showStrip();
+        panel.creator.slotPrevious();
+        QTRY_VERIFY(panel.view()->verticalScrollBar()->value() > 0);
+        QTimer::singleShot(0, &panel.creator, [&] { panel.creator.setFiles({photo}); });
+        panel.creator.slotPrevious();
+        QCOMPARE(panel.view()->model()->rowCount(), 1);
+        QVERIFY(!panel.view()->currentIndex().isValid());
     }
 
     void eachStepRunsTheFlowOnceWithTheStripShown()

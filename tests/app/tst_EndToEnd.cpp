@@ -1,10 +1,9 @@
-#include "app/MainPage.h"
-#include "app/Startup.h"
 #include "flow/BaseNode.h"
 #include "flow/ComboSlider.h"
 #include "flow/NodesTabBar.h"
 #include "intake/CreatorDropArea.h"
 #include "preview/ImagePreview.h"
+#include "Program.h"
 #include "reference/ToneReference.h"
 #include "support/DropEvents.h"
 #include "support/ImageCompare.h"
@@ -15,68 +14,33 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QGroupBox>
-#include <QMenu>
-#include <QMWidgets/App.h>
-#include <QMWidgets/DropWidget.h>
-#include <QPushButton>
-#include <QStackedWidget>
 
 namespace
 {
 
-/// The program, put together as main does.
-class Program
+void add(Program& program, const char* operation)
 {
-public:
-    Program()
-    {
-        setUpApplication(*QMWidgets::App::app());
-        page = new MainPage(nullptr);
-        preparePage(*QMWidgets::App::app(), *page);
-        dropWindow = new QMWidgets::DropWidget(nullptr);
-        openDropWindow(*QMWidgets::App::app(), *page, *dropWindow);
-    }
-    ~Program()
-    {
-        delete dropWindow;
-        delete page;
-    }
-
-    void add(const char* operation)
-    {
-        auto* const menu = page->findChild<QMenu*>(QStringLiteral("FlowPanelMenu"));
-        for (QAction* action : menu->actions()) {
-            if (action->text() == QLatin1String(operation)) {
-                action->trigger();
-            }
+    for (QAction* action : program.addMenu()->actions()) {
+        if (action->text() == QLatin1String(operation)) {
+            action->trigger();
         }
     }
+}
 
-    /// The page of the node in hand.
-    QWidget* node() { return page->findChild<QStackedWidget*>()->currentWidget(); }
-    QPushButton* button(const char* name)
-    {
-        return page->findChild<QPushButton*>(QLatin1String(name));
-    }
-    QImage shownResult()
-    {
-        QMWidgets::Label* const preview = page->findChild<ImagePreview*>();
-        return preview->pixmap().toImage();
-    }
+QImage shownResult(Program& program)
+{
+    QMWidgets::Label* const preview = program.page->findChild<ImagePreview*>();
+    return preview->pixmap().toImage();
+}
 
-    /// Presses "Save Results" and waits for the run; gives its folder.
-    QDir saveResults()
-    {
-        UrlCatcher opened;
-        button("RunBatchButton")->click();
-        const QList<QUrl> urls = opened.take();
-        return urls.size() == 1 ? QDir(urls.first().toLocalFile())
-                                : QDir(QStringLiteral("missing"));
-    }
-
-    MainPage* page;
-    QMWidgets::DropWidget* dropWindow;
-};
+/// Presses "Save Results" and waits for the run; gives its folder.
+QDir saveResults(Program& program)
+{
+    UrlCatcher opened;
+    program.button("RunBatchButton")->click();
+    const QList<QUrl> urls = opened.take();
+    return urls.size() == 1 ? QDir(urls.first().toLocalFile()) : QDir(QStringLiteral("missing"));
+}
 
 QByteArray checksum(const QUrl& url)
 {
@@ -117,13 +81,13 @@ private slots:
         QVERIFY(!program.dropWindow->isVisible());
         QVERIFY(program.page->isVisible());
 
-        program.add("Grayscale");
-        program.add("Brightness, Contrast, Saturation");
+        add(program, "Grayscale");
+        add(program, "Brightness, Contrast, Saturation");
         program.node()->findChildren<ComboSlider*>().at(0)->setValue(40);
         program.node()->findChildren<ComboSlider*>().at(2)->setValue(30);
-        program.add("Invert");
+        add(program, "Invert");
         QTest::keyClick(program.node()->findChild<QGroupBox*>(), Qt::Key_Space);
-        program.add("Binarization");
+        add(program, "Binarization");
         program.page->findChild<NodesTabBar*>()->moveTab(1, 0);
 
         const auto expected = [](const QUrl& url) {
@@ -132,15 +96,15 @@ private slots:
             return reference::binarize(reference::grayscale(toned), 127);
         };
         program.button("NextImageButton")->click();
-        QCOMPARE(program.shownResult().height(), 360);
+        QCOMPARE(shownResult(program).height(), 360);
         program.page->findChild<ImagePreview*>()
             ->findChild<QPushButton*>(QStringLiteral("PreviousImageButton"))
             ->click();
-        QCOMPARE(program.shownResult().width(), 360);
+        QCOMPARE(shownResult(program).width(), 360);
 
         set("KeyFormat", QStringLiteral("PNG"));
         set("KeyRename", false);
-        const QDir results = program.saveResults();
+        const QDir results = saveResults(program);
         QCOMPARE(results.entryList(QDir::Files, QDir::Name),
                  QStringList({"dot.png", "tall.png", "wide.png"}));
         for (const char* name : {"wide", "tall", "dot"}) {
@@ -155,7 +119,7 @@ private slots:
         set("KeyFormat", QStringLiteral("BMP"));
         set("KeyRename", true);
         set("KeyNumbers", 1);
-        const QDir renamed = program.saveResults();
+        const QDir renamed = saveResults(program);
         QCOMPARE(renamed.entryList({QStringLiteral("*.bmp")}, QDir::Files, QDir::Name),
                  QStringList({"NewName1.bmp", "NewName3.bmp", "NewName7.bmp"}));
         for (int i = 0; i < urls.size(); ++i) {

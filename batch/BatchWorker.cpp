@@ -4,6 +4,7 @@
 #include "flow/Operations.h"
 #include "intake/BaseNameOf.h"
 
+#include <QDebug>
 #include <QFileInfo>
 #include <QThread>
 
@@ -69,12 +70,17 @@ QImage BatchWorker::process(const QString& file) const
     // A name such as "photo@2x" sets a ratio, which would have painters draw at half the scale.
     image.setDevicePixelRatio(1.0);
     if (image.isNull()) {
-        qWarning("Can't read the photo %s", qUtf8Printable(file));
+        // Streamed, a name stays one line whatever it holds.
+        qWarning() << "Can't read the photo" << file;
+        return image;
     }
     for (const auto& [name, parameters] : m_operations) {
         if (const Operation* const operation = findOperation(name)) {
             image = operation->processFromXml(image, parameters);
         }
+    }
+    if (image.isNull()) {
+        qWarning() << "The flow leaves nothing of the photo" << file;
     }
     return image;
 }
@@ -106,6 +112,6 @@ void BatchWorker::save(const QImage& image, const QString& name) const
     }
     if (!liesIn(m_destination, file) ||
         !saveResult(image, file, m_format.toLocal8Bit(), m_quality)) {
-        qWarning("Can't write the result %s", qUtf8Printable(file));
+        qWarning() << "Can't write the result" << file;
     }
 }

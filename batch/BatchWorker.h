@@ -35,8 +35,8 @@ public:
     void endUnstartedRun();
 
 public slots:
-    /// The run. A photo that can't be read or written is passed over with a warning in the log; it
-    /// keeps its number.
+    /// The run. A photo that can't be read or written, or that the flow leaves nothing of, is
+    /// passed over with one line of warning in the log; it keeps its number.
     void slotDoWork();
 
 signals:

@@ -111,7 +111,8 @@ void Representor::growOutOfPanel()
 {
     m_viewDialog->setMinimumWidth(5);
     m_viewDialog->setMinimumHeight(5);
-    auto* animation = new QPropertyAnimation(m_viewDialog, "geometry");
+    // The dialog may go before the next step, at which a free animation would end.
+    auto* animation = new QPropertyAnimation(m_viewDialog, "geometry", m_viewDialog);
     animation->setDuration(kGrowTime);
     animation->setStartValue(QRect(mapToGlobal(QPoint(width() / 2, height() / 2)),
                                    QSize(qRound(width() / 10.0), qRound(height() / 10.0))));

@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 
 seconds=${1:-60}
 shift || true
-[ $# -gt 0 ] || set -- parameters data-url flow
+[ $# -gt 0 ] || set -- parameters data-url flow image
 
 scripts/build.sh fuzz
 
@@ -24,10 +24,19 @@ for target in "$@"; do
     log=build/fuzz/$target.log
     rm -rf "$corpus"
     mkdir -p "$corpus"
+    sources=("$corpus")
+    if [ "$target" = image ]; then
+        sources+=("$corpus-seeds")
+        rm -rf "$corpus-seeds"
+        mkdir -p "$corpus-seeds"
+        build/fuzz/fuzz/fuzz-image-seeds "$corpus-seeds"
+    else
+        sources+=(fuzz/corpus/"$target")
+    fi
     # An image may take 2 GiB, so a single allocation may, and filling it takes a busy machine
     # minutes under the sanitizers: only what takes much longer is a hang.
     outcome=well
-    nice -n 19 build/fuzz/fuzz/fuzz-"$target" "$corpus" fuzz/corpus/"$target" \
+    nice -n 19 build/fuzz/fuzz/fuzz-"$target" "${sources[@]}" \
         -max_total_time="$seconds" -timeout=300 -report_slow_units=300 \
         -rss_limit_mb=6144 -malloc_limit_mb=2304 -max_len=16384 -print_final_stats=1 \
         -dict=fuzz/"$target".dict -artifact_prefix="$findings/$target-" \

@@ -6,11 +6,11 @@
 #include "reference/GeometryReference.h"
 #include "reference/ToneReference.h"
 #include "reference/VignetteReference.h"
+#include "support/PeakMemory.h"
 #include <MGraphX/HeapPolicy.h>
 
 #include <cstdio>
 #include <ctime>
-#include <QFile>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
@@ -117,29 +117,6 @@ QVector<TimedFlow> flows()
 double cpuSeconds()
 {
     return double(std::clock()) / CLOCKS_PER_SEC;
-}
-
-/// Forgets the peak of memory so far; Linux only.
-void resetPeak()
-{
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write("5");
-    }
-}
-
-/// Peak of resident memory in megabytes, or -1 where the system doesn't tell.
-double peakMegabytes()
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    if (file.open(QIODevice::ReadOnly)) {
-        for (const QByteArray& line : file.readAll().split('\n')) {
-            if (line.startsWith("VmHWM:")) {
-                return line.mid(6).trimmed().split(' ').first().toDouble() / 1024.0;
-            }
-        }
-    }
-    return -1;
 }
 
 /// Seconds a photo of the program's own batch.

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing to build and run Tessarin. Asks nothing; uses sudo only where it has to.
 # Arguments: names of further sets, of "format" (the formatter), "clang" (a second compiler, with what
-# it needs for sanitizers and fuzzing) and "bench" (the benchmark library).
+# it needs for sanitizers and fuzzing), "bench" (the benchmark library) and "memcheck" (valgrind).
 set -euo pipefail
 
 as_root() {
@@ -21,6 +21,7 @@ install_debian() {
         format) packages+=(clang-format-14) ;;
         clang) packages+=(clang-14 libclang-rt-14-dev) ;;
         bench) packages+=(libbenchmark-dev) ;;
+        memcheck) packages+=(valgrind libc6-dbg) ;;
         esac
     done
     local missing=() package

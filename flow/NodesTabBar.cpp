@@ -17,6 +17,18 @@ void NodesTabBar::tabRemoved(int index)
     emit countChanged(count());
 }
 
+void NodesTabBar::keyPressEvent(QKeyEvent* event)
+{
+    QTabBar::keyPressEvent(event);
+    emit tabClicked();
+}
+
+void NodesTabBar::wheelEvent(QWheelEvent* event)
+{
+    QTabBar::wheelEvent(event);
+    emit tabClicked();
+}
+
 void NodesTabBar::mouseMoveEvent(QMouseEvent* event)
 {
     bool moved = false;

@@ -14,7 +14,8 @@ public:
     bool isMovingTabs() const { return m_movingTabs; }
 
 signals:
-    /// The mouse button went up, after a click or a drag.
+    /// The mouse button went up, after a click or a drag, or a key or the wheel may have stepped to
+    /// another tab.
     void tabClicked();
     void countChanged(int count);
     /// A drag has moved tabs; comes when the bar is done with the movement of the mouse, and so may
@@ -24,6 +25,8 @@ signals:
 protected:
     void tabInserted(int index) override;
     void tabRemoved(int index) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 

@@ -26,6 +26,7 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTimerEvent>
+#include <QWheelEvent>
 
 namespace
 {
@@ -95,6 +96,7 @@ void Hands::act()
         {10, "remove", &Hands::removeNode},
         {6, "click a tab", &Hands::clickTab},
         {10, "drag a tab", &Hands::dragTab},
+        {4, "step along the tabs", &Hands::stepAlongTabs},
         {5, "flows", &Hands::favorites},
         {5, "load", &Hands::loadFavorite},
         {20, "slider", &Hands::moveSlider},
@@ -238,6 +240,19 @@ void Hands::dragTab()
     }
     m_isDragging = false;
     QTest::mouseRelease(m_bar, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void Hands::stepAlongTabs()
+{
+    const int by = upTo(2) == 0 ? 1 : -1;
+    if (upTo(2) == 0) {
+        QTest::keyClick(m_bar, by > 0 ? Qt::Key_Right : Qt::Key_Left);
+        return;
+    }
+    const QPoint place = m_bar->rect().center();
+    QWheelEvent wheel(place, m_bar->mapToGlobal(place), QPoint(), QPoint(0, by * 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(m_bar, &wheel);
 }
 
 void Hands::favorites()

@@ -56,6 +56,7 @@ private:
     void removeNode();
     void clickTab();
     void dragTab();
+    void stepAlongTabs();
     void favorites();
     void loadFavorite();
     void moveSlider();

@@ -5,10 +5,9 @@
 #include <QUrl>
 
 #ifdef Q_OS_WIN
-#include <QFileInfo>
-#include <windows.h>
+#include "platform/ExplorerWindows.h"
 
-#include <shellapi.h>
+#include <QFileInfo>
 #endif
 
 namespace QMWidgets
@@ -20,13 +19,7 @@ void openInFileManager(const QString& path)
 {
     QString folder = path;
     folder.replace(QLatin1String("//"), QLatin1String("/"));
-    const QString parameters =
-        QStringLiteral("/e,/select,\"%1\"").arg(QDir::toNativeSeparators(folder));
-    const HINSTANCE answer =
-        ShellExecuteW(GetDesktopWindow(), L"open", L"explorer.exe",
-                      reinterpret_cast<LPCWSTR>(parameters.utf16()), nullptr, SW_SHOWNORMAL);
-    // The shell's answer is no handle but a number: up to 32 it tells of an error.
-    if (reinterpret_cast<INT_PTR>(answer) < 33) {
+    if (!platform::showInExplorer(QDir::toNativeSeparators(folder).toStdWString())) {
         QDesktopServices::openUrl(
             QUrl(QLatin1String("file://") + QFileInfo(path).absoluteDir().absolutePath()));
     }

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing to build and run Tessarin. Asks nothing; uses sudo only where it has to.
 # Arguments: names of further sets, of "format" (the formatter), "clang" (a second compiler, with what
-# it needs for sanitizers and fuzzing), "bench" (the benchmark library) and "memcheck" (valgrind).
+# it needs for sanitizers and fuzzing), "bench" (the benchmark library), "memcheck" (valgrind), and what
+# the checks of their name need: "desktop", "package" and "windows".
 set -euo pipefail
 
 as_root() {
@@ -22,6 +23,10 @@ install_debian() {
         clang) packages+=(clang-14 libclang-rt-14-dev) ;;
         bench) packages+=(libbenchmark-dev) ;;
         memcheck) packages+=(valgrind libc6-dbg) ;;
+        desktop) packages+=(appstream desktop-file-utils file libglib2.0-bin libxml2-utils mandoc
+            shared-mime-info) ;;
+        package) packages+=(dpkg-dev file openbox wmctrl x11-utils xdotool xvfb) ;;
+        windows) packages+=(g++-mingw-w64-x86-64-posix python3-minimal) ;;
         esac
     done
     local missing=() package

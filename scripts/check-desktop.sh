@@ -46,7 +46,7 @@ expect_type() {
     [ "$found" = "$2" ] || fail "$(basename "$1") is taken for $found, not for $2"
 }
 flow=application/x-tessarin-flow+xml
-cp app/resources/sample.flow "$stage/named.flow"
+echo "nothing that tells" >"$stage/named.flow"
 cp app/resources/sample.flow "$stage/unnamed"
 { echo '<?xml version="1.0"?>' && cat app/resources/sample.flow; } >"$stage/declared"
 echo '<?xml version="1.0"?><Operations/>' >"$stage/other.xml"

@@ -7,7 +7,9 @@ cd "$(dirname "$0")/.."
 scripts/build.sh release
 # The program looks for "Resources/" in the folder it is started from: here.
 if [ "$(uname)" = Darwin ] || [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
-    exec build/release/app/Tessarin "$@"
+    program=build/release/app/Tessarin
+    [ ! -d $program.app ] || program=$program.app/Contents/MacOS/Tessarin
+    exec $program "$@"
 fi
 echo "There is no display: the tour takes a few sample photos through the program instead."
 QT_QPA_PLATFORM=offscreen exec build/release/tools/tour/tessarin_tour "$@"

@@ -60,25 +60,38 @@ DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends ".
 
 # A home of its own, a folder to start from that the program knows nothing of, a screen with one pixel
 # for each of the program's, and a window manager, which closes a window as a user does.
-mkdir "$room/home"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -dpi 96 3>"$room/display" 2>/dev/null &
-screen=$!
-for _ in $(seq 100); do
-    [ -s "$room/display" ] && break
-    sleep 0.1
-done
-[ -s "$room/display" ] || fail "there is no virtual screen"
-DISPLAY=:$(cat "$room/display")
-export DISPLAY
+mkdir -m 700 "$room/home"
 on_screen() { # for the background: it turns into the program
     cd "$room/home"
-    exec env -i HOME="$room/home" PATH="$PATH" DISPLAY="$DISPLAY" "$@"
+    exec env -i HOME="$room/home" XDG_RUNTIME_DIR="$room/home" PATH="$PATH" DISPLAY="$DISPLAY" "$@"
 }
+await() {
+    local _
+    for _ in $(seq 300); do
+        "$@" >/dev/null 2>&1 && return
+        sleep 0.2
+    done
+    return 1
+}
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -dpi 96 -noreset 3>"$room/display" 2>/dev/null &
+screen=$!
+await test -s "$room/display" || fail "there is no virtual screen"
+DISPLAY=:$(cat "$room/display")
+export DISPLAY
 on_screen openbox >/dev/null 2>&1 &
+# A window that opens while the manager takes over may get lost.
+await sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id"' ||
+    fail "there is no window manager"
 on_screen tessarin "$room/some photo.jpeg" >"$room/program.log" 2>&1 &
 program=$!
-window=$(timeout 60 xdotool search --sync --onlyvisible --name '^Tessarin$') ||
-    { cat "$room/program.log" && fail "no window of the program appeared"; }
+find_window() {
+    window=$(xdotool search --onlyvisible --name '^Tessarin$') && [ -n "$window" ]
+}
+await find_window || {
+    cat "$room/program.log"
+    xwininfo -root -tree
+    fail "no window of the program appeared"
+}
 size=$(xwininfo -id "$window" | sed -n 's/^ *\(Width\|Height\): //p' | paste -sd x)
 [ "$size" = 400x400 ] || fail "the window measures $size"
 xprop -id "$window" WM_CLASS | grep -q '"Tessarin"$' ||
@@ -86,12 +99,10 @@ xprop -id "$window" WM_CLASS | grep -q '"Tessarin"$' ||
 [ "$(readlink "/proc/$program/cwd")" = /usr/share/tessarin ] ||
     fail "the program does not run where its \"Resources\" are"
 
-for _ in $(seq 100); do
-    wmctrl -i -c "$window" || true
-    kill -0 "$program" 2>/dev/null || break
-    sleep 0.1
-done
-kill -0 "$program" 2>/dev/null && fail "the program does not end when its window is closed"
+is_over() {
+    ! kill -0 "$program" || { wmctrl -i -c "$window" && false; }
+}
+await is_over || fail "the program does not end when its window is closed"
 wait "$program" || fail "the program ended with exit code $?"
 program=
 

@@ -26,7 +26,7 @@ install_debian() {
         desktop) packages+=(appstream desktop-file-utils file libglib2.0-bin libxml2-utils mandoc
             shared-mime-info) ;;
         package) packages+=(dpkg-dev file openbox wmctrl x11-utils xdotool xvfb) ;;
-        windows) packages+=(g++-mingw-w64-x86-64-posix python3-minimal) ;;
+        windows) packages+=(g++-mingw-w64-x86-64-posix python3) ;;
         esac
     done
     local missing=() package

@@ -11,7 +11,7 @@ import sys
 ICONS = pathlib.Path(__file__).resolve().parent.parent / "app" / "art" / "icons"
 ICO_SIZES = (16, 24, 32, 48, 64, 128, 256)
 # The kinds of entries, by size, that hold PNG files.
-ICNS_KINDS = {16: b"icp4", 32: b"icp5", 64: b"icp6", 128: b"ic07", 256: b"ic08"}
+ICNS_KINDS = {16: b"icp4", 32: b"icp5", 64: b"icp6", 128: b"ic07", 256: b"ic08", 512: b"ic09"}
 
 
 def picture(size):

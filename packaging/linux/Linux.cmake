@@ -55,7 +55,7 @@ install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 function(install_icon source_name target_name)
     set(source "${PROJECT_SOURCE_DIR}/app/art/icons/${source_name}")
     set(theme "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
-    foreach(size IN ITEMS 16 24 32 48 64 128 256)
+    foreach(size IN ITEMS 16 24 32 48 64 128 256 512)
         cmake_path(GET target_name PARENT_PATH folder)
         cmake_path(GET target_name FILENAME name)
         install(FILES "${source}-${size}.png" DESTINATION "${theme}/${size}x${size}/${folder}"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "flow/FlowsFolder.h"
+#include "flow/Operations.h"
 #include "FlowTesting.h"
 #include "support/ModalDialog.h"
 
@@ -69,4 +70,15 @@ inline QStringList savedNames(Flow& flow)
     }
     names.sort();
     return names;
+}
+
+/// The batch's way.
+inline QImage throughTheBatch(Flow& flow, QImage image)
+{
+    for (BaseNode* node : flow.options.flow()) {
+        if (node->isActive()) {
+            image = findOperation(node->name())->processFromXml(image, node->parametersText());
+        }
+    }
+    return image;
 }

@@ -56,16 +56,6 @@ QStringList texts(Flow& flow)
     return all;
 }
 
-QImage throughTheBatch(Flow& flow, QImage image)
-{
-    for (BaseNode* node : flow.options.flow()) {
-        if (node->isActive()) {
-            image = findOperation(node->name())->processFromXml(image, node->parametersText());
-        }
-    }
-    return image;
-}
-
 /// The system's encoding while it lives.
 class LocaleCodec
 {

@@ -19,8 +19,7 @@ void tuneOperation(Stage& stage)
     stage.setSlider(QStringLiteral("Buttom:"), 12);
     stage.addOperation(QStringLiteral("Vignetting"));
     stage.setSlider(QStringLiteral("Opacity:"), 45);
-    // On its way over the second tab, the mouse takes along the button that a menu left behind
-    // there.
+    // A closing menu left the second tab lit under the mouse: a click takes that light along.
     stage.selectOperation(1);
     stage.selectOperation(0);
     stage.restPointer();

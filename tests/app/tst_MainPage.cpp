@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
+#include <QImage>
 #include <QMWidgets/App.h>
 #include <QPushButton>
 #include <QTimer>
@@ -72,6 +73,17 @@ private slots:
             QCOMPARE(slides.size(), 12);
             QCOMPARE(slides.first(), QStringLiteral("Resources/TS1_%1.jpeg").arg(row.code));
             QCOMPARE(slides.last(), QStringLiteral("Resources/TS12_%1.jpeg").arg(row.code));
+        }
+    }
+
+    void allSlidesAreThere()
+    {
+        const QString folder = QStringLiteral(TESSARIN_SLIDES_FOLDER);
+        for (const char* language : {"en", "de", "ru"}) {
+            for (const QString& path : helpSlides(QLatin1String(language), folder)) {
+                const QImage slide(path, "JPEG");
+                QVERIFY2(slide.size() == QSize(1600, 1200), qPrintable(path));
+            }
         }
     }
 

@@ -22,7 +22,8 @@ Options Options::read(int argc, char** argv)
         const QString word = QString::fromLocal8Bit(argv[i]);
         const bool takesValue = word == QLatin1String("--only") || word == QLatin1String("--out") ||
                                 word == QLatin1String("--operation-pictures") ||
-                                word == QLatin1String("--contact-sheet");
+                                word == QLatin1String("--contact-sheet") ||
+                                word == QLatin1String("--slides");
         const QString value =
             takesValue && i + 1 < argc ? QString::fromLocal8Bit(argv[i + 1]) : QString();
         if (takesValue && value.isEmpty()) {
@@ -38,6 +39,8 @@ Options Options::read(int argc, char** argv)
             options.operationPictures = QDir(value).absolutePath();
         } else if (word == QLatin1String("--contact-sheet")) {
             options.contactSheet = QDir(value).absolutePath();
+        } else if (word == QLatin1String("--slides")) {
+            options.slides = QDir(value).absolutePath();
         } else if (word == QLatin1String("--list")) {
             options.list = true;
         } else if (word == QLatin1String("--keep-photos")) {
@@ -60,6 +63,7 @@ QString Options::usage()
         "tessarin_tour [--only NAME,...] [--out FOLDER] [--keep-photos] [--list]\n"
         "tessarin_tour --operation-pictures FOLDER\n"
         "tessarin_tour --contact-sheet FOLDER\n"
+        "tessarin_tour --slides FOLDER [--out FOLDER] [--keep-photos]\n"
         "\n"
         "Paints sample photos, drives the program through its main job with mouse and keys,\n"
         "and takes pictures of its windows on the way.\n"
@@ -72,5 +76,6 @@ QString Options::usage()
         "\n"
         "  --operation-pictures FOLDER  write the pictures of docs/operations.md there instead\n"
         "  --contact-sheet FOLDER       draw all pictures of the resources there instead, at the\n"
-        "                               size of the screen that QT_SCALE_FACTOR tells\n");
+        "                               size of the screen that QT_SCALE_FACTOR tells\n"
+        "  --slides FOLDER              draw the slides of the help there instead\n");
 }

@@ -9,6 +9,7 @@ struct Options {
     QString out;               ///< folder of the photos, the results and the pictures
     QString operationPictures; ///< folder of the guide's pictures, or empty for the tour
     QString contactSheet;
+    QString slides; ///< folder of the help's slides, or empty for the tour
     bool list = false;
     bool keepPhotos = false; ///< take the photos that the folder holds from an earlier tour
     bool help = false;

@@ -28,9 +28,9 @@ void Pointer::moveTo(QWidget* widget, const QPoint& place)
 {
     // The system's pointer goes along, or it would send hover events of its own. It can't leave the
     // screen, while a large window may.
-    const QPoint global = widget->mapToGlobal(place);
-    if (QGuiApplication::screenAt(global)) {
-        QCursor::setPos(global);
+    m_place = widget->mapToGlobal(place);
+    if (QGuiApplication::screenAt(m_place)) {
+        QCursor::setPos(m_place);
     }
     QTest::mouseMove(windowOf(widget), inWindow(widget, place));
 }
@@ -72,4 +72,9 @@ void Pointer::pull(QWidget* widget, const QPoint& from, const QPoint& to)
     for (int step = 1; step <= kSteps; ++step) {
         moveTo(widget, from + (to - from) * step / kSteps);
     }
+}
+
+QPoint Pointer::placeIn(const QWidget* widget) const
+{
+    return widget->mapFromGlobal(m_place);
 }

@@ -19,4 +19,9 @@ public:
     void click(QWidget* widget);
     /// Presses and moves in small steps, as a hand does; the button stays down.
     void pull(QWidget* widget, const QPoint& from, const QPoint& to);
+    /// Where it is, relative to a widget.
+    QPoint placeIn(const QWidget* widget) const;
+
+private:
+    QPoint m_place; ///< global; the system's own can't leave the screen
 };

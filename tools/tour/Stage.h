@@ -43,6 +43,7 @@ public:
     MainPage* page() const;
     QMWidgets::DropWidget* dropWindow() const;
     const QStringList& photos() const { return m_photos; }
+    void setPhotos(const QStringList& paths) { m_photos = paths; }
     Camera& camera() { return m_camera; }
     Pointer& pointer() { return m_pointer; }
     const UrlTrap& urls() const { return m_urls; }

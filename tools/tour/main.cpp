@@ -6,6 +6,7 @@
 #include "photos/SamplePhotos.h"
 #include "Results.h"
 #include "Scene.h"
+#include "slides/DrawSlides.h"
 #include "Stage.h"
 
 #include <cstdio>
@@ -85,6 +86,15 @@ int play(Stage& stage, const Options& options)
     return failed ? SomethingFailed : AllWell;
 }
 
+int showSlides(Stage& stage, const QStringList& photos, const Options& options)
+{
+    drawSlides(stage, photos, QDir(options.out).filePath(kPhotosFolder), options.slides);
+    const int failed = stage.complaints().count();
+    say(failed ? QStringLiteral("%1 failures").arg(failed)
+               : QStringLiteral("Slides: %1").arg(options.slides));
+    return failed ? SomethingFailed : AllWell;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -123,6 +133,10 @@ int main(int argc, char** argv)
         return NothingDone;
     }
     evenOutDensity();
+    if (!options.slides.isEmpty()) {
+        // Slides are drawn pixel by pixel from windows of this density.
+        qputenv("QT_SCALE_FACTOR", "2");
+    }
     Stage stage(words, argv, photos, out.filePath(kPicturesFolder));
-    return play(stage, options);
+    return options.slides.isEmpty() ? play(stage, options) : showSlides(stage, photos, options);
 }

@@ -232,6 +232,34 @@ private slots:
         QVERIFY(isTold());
     }
 
+    void newsThatTheUserHasAskedForComesOnce()
+    {
+        HttpServer server(kNewer);
+        App* const app = App::app();
+        app->setUpdateService({{server.host()}, 60000});
+        app->setSettingsValue(kLastCheck, day(-9));
+        QWidget window;
+        QComboBox box(&window);
+        box.addItem(QStringLiteral("item"));
+        QPushButton button(&window);
+        connect(&button, &QPushButton::clicked, app, &App::slotCheckUpdate);
+        connect(&server, &HttpServer::asked, &box, &QComboBox::showPopup);
+        window.show();
+        app->nop_cuos();
+        QVERIFY(QApplication::activePopupWidget());
+        server.disconnect(&box);
+        box.hidePopup();
+        const auto isNoted = [] {
+            return lastCheck() == day(0);
+        };
+        QCOMPARE(dialogsOf([&] {
+                     QTest::keyClick(&button, Qt::Key_Space);
+                     return QTest::qWaitFor(isNoted, 30000);
+                 }),
+                 QStringList(kNewerDialog));
+        QVERIFY(isNoted());
+    }
+
     void nobodyIsFreeInsideAnEventOrUnderADialog()
     {
         QVERIFY(App::isUserFree());

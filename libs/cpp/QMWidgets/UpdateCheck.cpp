@@ -122,15 +122,17 @@ void UpdateCheck::tell(UpdateState state)
 }
 
 /// Tells what a quiet check found, as soon as the user is free and unless he has asked and been
-/// told in the meantime.
+/// told in the meantime. Either way the check counts as made.
 void UpdateCheck::showNews()
 {
     if (!App::isUserFree()) {
         QTimer::singleShot(kPause, this, &UpdateCheck::showNews);
-    } else if (m_newsWaits) {
-        tell(UpdateState::Newer);
-        UpdateSettings::setLastCheck(QDate::currentDate());
+        return;
     }
+    if (m_newsWaits) {
+        tell(UpdateState::Newer);
+    }
+    UpdateSettings::setLastCheck(QDate::currentDate());
 }
 
 } // namespace QMWidgets

@@ -35,6 +35,8 @@ void triggerWithFile(QAction* action, const QString& name)
     withModalDialog([action] { action->trigger(); },
                     [&name](QDialog* dialog) {
                         if (!name.isEmpty()) {
+                            // In the list, too: what is marked there goes before the text.
+                            static_cast<QFileDialog*>(dialog)->selectFile(name);
                             dialog->findChild<QLineEdit*>()->setText(name);
                             static_cast<QFileDialog*>(dialog)->QDialog::accept();
                         }
@@ -104,10 +106,17 @@ private slots:
         doc->setPlainText(QStringLiteral("/**/"));
         save->trigger(); // knows its file now
         QCOMPARE(contentOf(path), QByteArray("/**/"));
+        // A name that can't be written to is not kept.
+        triggerWithFile(actionOf(editor, "S&ave As..."),
+                        folder.filePath(QStringLiteral("missing/look.qss")));
+        QCOMPARE(editor.windowTitle(), path);
+        doc->setPlainText(QStringLiteral("/* */"));
+        save->trigger();
+        QCOMPARE(contentOf(path), QByteArray("/* */"));
 
         CssEditor other;
         triggerWithFile(actionOf(other, "&Open..."), path);
-        QCOMPARE(other.findChild<CssDoc*>()->toPlainText(), QStringLiteral("/**/"));
+        QCOMPARE(other.findChild<CssDoc*>()->toPlainText(), QStringLiteral("/* */"));
         QCOMPARE(other.windowTitle(), path);
         triggerWithFile(actionOf(other, "&Open..."), folder.filePath(QStringLiteral("missing")));
         QCOMPARE(other.windowTitle(), path);

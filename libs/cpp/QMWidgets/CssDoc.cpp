@@ -2,20 +2,15 @@
 
 #include "CssSyntaxHighlighter.h"
 #include "FileDialog.h"
+#include "WholeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QSaveFile>
 #include <QTextStream>
 
 namespace QMWidgets
 {
-
-namespace
-{
-const char* const kCodec = "UTF-8";
-} // namespace
 
 CssDoc::CssDoc(QWidget* parent)
     : QTextEdit(parent)
@@ -55,7 +50,7 @@ void CssDoc::slotLoad()
         return;
     }
     QTextStream stream(&file);
-    stream.setCodec(kCodec);
+    stream.setCodec("UTF-8");
     setPlainText(stream.readAll());
     m_fileName = name;
     emit changeWindowTitle(m_fileName);
@@ -65,19 +60,8 @@ void CssDoc::slotSave()
 {
     if (m_fileName.isEmpty()) {
         slotSaveAs();
-        return;
-    }
-    // Written beside the file and renamed at the end: a full disk spoils no style sheet.
-    QSaveFile file(m_fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
-        return;
-    }
-    QTextStream stream(&file);
-    stream.setCodec(kCodec);
-    stream << toPlainText();
-    stream.flush();
-    if (file.commit()) {
-        emit changeWindowTitle(m_fileName);
+    } else {
+        saveTo(m_fileName);
     }
 }
 
@@ -85,8 +69,15 @@ void CssDoc::slotSaveAs()
 {
     const QString name = FileDialog::getSaveFileName(this, tr("Save As"), m_fileName);
     if (!name.isEmpty()) {
+        saveTo(name);
+    }
+}
+
+void CssDoc::saveTo(const QString& name)
+{
+    if (writeWholeFile(name, toPlainText().toUtf8())) {
         m_fileName = name;
-        slotSave();
+        emit changeWindowTitle(m_fileName);
     }
 }
 

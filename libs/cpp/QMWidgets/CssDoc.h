@@ -32,6 +32,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void saveTo(const QString& name);
+
     QString m_fileName;
 };
 

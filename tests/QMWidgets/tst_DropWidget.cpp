@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QMWidgets/DropWidget.h>
 #include <QMWidgets/FileDialog.h>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -91,9 +92,16 @@ private slots:
         widget.show();
         QList<QUrl> received;
         bool visibleMeanwhile = false;
+        bool takesMore = true;
         connect(&widget, &DropWidget::dropped, this, [&](const QList<QUrl>& urls) {
             received = urls;
             visibleMeanwhile = widget.isVisible();
+            QMimeData more;
+            more.setUrls(urls);
+            QDragEnterEvent next(QPoint(5, 5), Qt::CopyAction, &more, Qt::LeftButton,
+                                 Qt::NoModifier);
+            QCoreApplication::sendEvent(&widget, &next);
+            takesMore = next.isAccepted() || widget.findChild<QPushButton*>()->isEnabled();
         });
         const QList<QUrl> urls = {QUrl::fromLocalFile(QStringLiteral("/z.png")),
                                   QUrl::fromLocalFile(QStringLiteral("/a.txt")),
@@ -107,6 +115,7 @@ private slots:
         QCoreApplication::sendEvent(&widget, &drop);
         QCOMPARE(received, urls);
         QVERIFY(visibleMeanwhile);
+        QVERIFY(!takesMore);
         QVERIFY(widget.isHidden());
     }
 

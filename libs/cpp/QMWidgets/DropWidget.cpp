@@ -65,8 +65,12 @@ void DropWidget::dropEvent(QDropEvent* event)
 void DropWidget::handOver(const QList<QUrl>& urls)
 {
     m_urls = urls;
+    // Whoever takes the photos may let events through before this window is gone: no second list
+    // comes in between.
+    setEnabled(false);
     emit dropped(m_urls);
     hide();
+    setEnabled(true);
 }
 
 } // namespace QMWidgets

@@ -1,8 +1,8 @@
 #include "App.h"
 #include "MailUrl.h"
+#include "OpenAddress.h"
 #include <QMWidgets/MakerSite.h>
 
-#include <QDesktopServices>
 #include <QUrl>
 
 namespace QMWidgets
@@ -10,12 +10,6 @@ namespace QMWidgets
 
 namespace
 {
-
-/// Whether an address could be opened is the desktop's matter; nobody is told of a failure.
-void openAddress(const QUrl& url)
-{
-    static_cast<void>(QDesktopServices::openUrl(url));
-}
 
 /// "/apps/" and the application's name, as it stands in the addresses of the maker's site.
 QString applicationPage()

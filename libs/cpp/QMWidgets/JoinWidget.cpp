@@ -1,10 +1,10 @@
 #include "JoinWidget.h"
 
 #include "App.h"
+#include "OpenAddress.h"
 #include "SocialColumn.h"
 #include <QMWidgets/MakerSite.h>
 
-#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -57,8 +57,7 @@ JoinWidget::JoinWidget(QWidget* parent)
 
 void JoinWidget::openPage(const QString& social) const
 {
-    static_cast<void>(QDesktopServices::openUrl(
-        QUrl(m_urlTemplate.arg(QCoreApplication::applicationName(), social))));
+    openAddress(QUrl(m_urlTemplate.arg(QCoreApplication::applicationName(), social)));
 }
 
 void JoinWidget::slotFaceBookClicked()

@@ -3,9 +3,9 @@
 #include "App.h"
 #include "AppButton.h"
 #include "FollowLanguage.h"
+#include "OpenAddress.h"
 
 #include <QAction>
-#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QSignalMapper>
@@ -136,8 +136,7 @@ void PromoMenuBar::setMoreAppsButtonHidden()
 
 void PromoMenuBar::slotCallUrl(const QString& url)
 {
-    // A desktop without a browser opens nothing, and shows nothing of it.
-    static_cast<void>(QDesktopServices::openUrl(QUrl(url)));
+    openAddress(QUrl(url));
 }
 
 } // namespace QMWidgets

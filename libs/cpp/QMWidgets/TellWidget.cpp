@@ -1,25 +1,15 @@
 #include "TellWidget.h"
 
 #include "App.h"
+#include "OpenAddress.h"
 #include "SocialColumn.h"
 
-#include <QDesktopServices>
 #include <QPushButton>
 #include <QUrl>
 #include <QVBoxLayout>
 
 namespace QMWidgets
 {
-
-namespace
-{
-
-void openPage(const QString& address)
-{
-    static_cast<void>(QDesktopServices::openUrl(QUrl(address)));
-}
-
-} // namespace
 
 TellWidget::TellWidget(QWidget* parent)
     : QFrame(parent)
@@ -34,17 +24,17 @@ TellWidget::TellWidget(QWidget* parent)
 
 void TellWidget::slotFaceBookClicked()
 {
-    openPage(App::app()->facebookUrl());
+    openAddress(QUrl(App::app()->facebookUrl()));
 }
 
 void TellWidget::slotTwitterClicked()
 {
-    openPage(App::app()->twitterUrl());
+    openAddress(QUrl(App::app()->twitterUrl()));
 }
 
 void TellWidget::slotVKontakteClicked()
 {
-    openPage(App::app()->vkontakteUrl());
+    openAddress(QUrl(App::app()->vkontakteUrl()));
 }
 
 void TellWidget::slotEmailClicked()

@@ -20,10 +20,10 @@ Options Options::read(int argc, char** argv)
     Options options;
     for (int i = 1; i < argc; ++i) {
         const QString word = QString::fromLocal8Bit(argv[i]);
-        const bool takesValue = word == QLatin1String("--only") || word == QLatin1String("--out") ||
-                                word == QLatin1String("--operation-pictures") ||
-                                word == QLatin1String("--contact-sheet") ||
-                                word == QLatin1String("--slides");
+        const bool takesValue =
+            word == QLatin1String("--only") || word == QLatin1String("--out") ||
+            word == QLatin1String("--language") || word == QLatin1String("--operation-pictures") ||
+            word == QLatin1String("--contact-sheet") || word == QLatin1String("--slides");
         const QString value =
             takesValue && i + 1 < argc ? QString::fromLocal8Bit(argv[i + 1]) : QString();
         if (takesValue && value.isEmpty()) {
@@ -35,6 +35,8 @@ Options Options::read(int argc, char** argv)
             options.only += value.split(QLatin1Char(','), Qt::SkipEmptyParts);
         } else if (word == QLatin1String("--out")) {
             options.out = QDir(value).absolutePath();
+        } else if (word == QLatin1String("--language")) {
+            options.language = value;
         } else if (word == QLatin1String("--operation-pictures")) {
             options.operationPictures = QDir(value).absolutePath();
         } else if (word == QLatin1String("--contact-sheet")) {
@@ -60,7 +62,8 @@ Options Options::read(int argc, char** argv)
 QString Options::usage()
 {
     return QStringLiteral(
-        "tessarin_tour [--only NAME,...] [--out FOLDER] [--keep-photos] [--list]\n"
+        "tessarin_tour [--only NAME,...] [--out FOLDER] [--language CODE] [--keep-photos]\n"
+        "tessarin_tour --list\n"
         "tessarin_tour --operation-pictures FOLDER\n"
         "tessarin_tour --contact-sheet FOLDER\n"
         "tessarin_tour --slides FOLDER [--out FOLDER] [--keep-photos]\n"
@@ -71,6 +74,8 @@ QString Options::usage()
         "  --only NAME,...  these scenes only\n"
         "  --out FOLDER     where everything goes; a new folder among the temporary files if\n"
         "                   it is missing\n"
+        "  --language CODE  show the program in this language, such as de; scenes that look for\n"
+        "                   English texts may then complain\n"
         "  --keep-photos    take the photos that the folder holds from an earlier tour\n"
         "  --list           name the scenes and end\n"
         "\n"

@@ -7,6 +7,7 @@
 struct Options {
     QStringList only;          ///< names of scenes; empty means all
     QString out;               ///< folder of the photos, the results and the pictures
+    QString language;          ///< code of the interface's language, or empty for English
     QString operationPictures; ///< folder of the guide's pictures, or empty for the tour
     QString contactSheet;
     QString slides; ///< folder of the help's slides, or empty for the tour

@@ -8,6 +8,7 @@
 #include "Scene.h"
 #include "slides/DrawSlides.h"
 #include "Stage.h"
+#include <QMWidgets/TranslationsManager.h>
 
 #include <cstdio>
 #include <QDir>
@@ -138,5 +139,8 @@ int main(int argc, char** argv)
         qputenv("QT_SCALE_FACTOR", "2");
     }
     Stage stage(words, argv, photos, out.filePath(kPicturesFolder));
+    if (!options.language.isEmpty()) {
+        QMWidgets::TranslationsManager::instance()->setLanguage(options.language);
+    }
     return options.slides.isEmpty() ? play(stage, options) : showSlides(stage, photos, options);
 }

@@ -24,6 +24,8 @@ DirectionsWidget::DirectionsWidget(QWidget* parent)
       m_middleRight(makeButton(tr("Middle right"))),
       m_frame(new QGroupBox(this))
 {
+    // Left and right are those of the photo, whichever way the interface is read.
+    setLayoutDirection(Qt::LeftToRight);
     m_bottomRight->setChecked(true);
 
     auto* grid = new QGridLayout(m_frame);

@@ -65,6 +65,24 @@ private slots:
         QCOMPARE(changed.count(), 3);
         QCOMPARE(checkedCells(widget), QList<int>());
     }
+
+    void keepsItsSidesInAMirroredPage()
+    {
+        QWidget page;
+        page.setLayoutDirection(Qt::RightToLeft);
+        DirectionsWidget widget(&page);
+        page.show();
+        const auto xOf = [&](const QString& name) {
+            for (const QPushButton* cell : cells(widget)) {
+                if (cell->accessibleName() == name) {
+                    return cell->mapTo(&page, QPoint()).x();
+                }
+            }
+            return -1;
+        };
+        QVERIFY(xOf(QStringLiteral("Top left")) >= 0);
+        QVERIFY(xOf(QStringLiteral("Top left")) < xOf(QStringLiteral("Top right")));
+    }
 };
 
 TESSARIN_TEST(TestDirectionsWidget);

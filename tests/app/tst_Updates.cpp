@@ -31,6 +31,14 @@ QString day(int fromToday)
     return QDate::currentDate().addDays(fromToday).toString(QStringLiteral("yyyy-MM-dd"));
 }
 
+/// Lets the program ask `hosts`, with a limit that no test comes to, as if its last check at the
+/// start had been on `lastDay`.
+void askFrom(const QStringList& hosts, const QString& lastDay)
+{
+    App::app()->setUpdateService({hosts, 60000});
+    App::app()->setSettingsValue(kLastCheck, lastDay);
+}
+
 QString lastCheck()
 {
     return App::app()->settingsValue(kLastCheck, QStringLiteral("none")).toString();
@@ -91,8 +99,7 @@ private slots:
         QFETCH(QString, dialog);
         HttpServer server(answer);
         App* const app = App::app();
-        app->setUpdateService({{server.host(), server.host()}, 60000});
-        app->setSettingsValue(kLastCheck, day(-10));
+        askFrom({server.host(), server.host()}, day(-10));
         MainPage page(nullptr);
         app->setMainWidget(&page);
         page.slotFilesDropped({});
@@ -130,8 +137,7 @@ private slots:
         QFETCH(QString, lastAfter);
         QFETCH(QStringList, dialogs);
         HttpServer server(answer);
-        App::app()->setUpdateService({{server.host()}, 60000});
-        App::app()->setSettingsValue(kLastCheck, last);
+        askFrom({server.host()}, last);
         QCOMPARE(dialogsOf([] { App::app()->nop_cuos(); }), dialogs);
         QCOMPARE(server.requests().count(), isAsked ? 1 : 0);
         QCOMPARE(lastCheck(), lastAfter);
@@ -204,8 +210,7 @@ private slots:
         QFETCH(bool, isAskedBefore);
         HttpServer server(kNewer);
         App* const app = App::app();
-        app->setUpdateService({{server.host()}, 60000});
-        app->setSettingsValue(kLastCheck, day(-9));
+        askFrom({server.host()}, day(-9));
         QWidget window;
         QComboBox box(&window);
         box.addItem(QStringLiteral("item"));
@@ -236,8 +241,7 @@ private slots:
     {
         HttpServer server(kNewer);
         App* const app = App::app();
-        app->setUpdateService({{server.host()}, 60000});
-        app->setSettingsValue(kLastCheck, day(-9));
+        askFrom({server.host()}, day(-9));
         QWidget window;
         QComboBox box(&window);
         box.addItem(QStringLiteral("item"));
@@ -301,8 +305,7 @@ private slots:
         QFETCH(bool, isQuiet);
         HttpServer server(answer);
         App* const app = App::app();
-        app->setUpdateService({{server.host(), server.host()}, 60000});
-        app->setSettingsValue(kLastCheck, day(-9));
+        askFrom({server.host(), server.host()}, day(-9));
         auto mainWindow = std::make_unique<QWidget>();
         app->setMainWidget(mainWindow.get());
         int dialogs = 0;

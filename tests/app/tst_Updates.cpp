@@ -1,4 +1,3 @@
-#include "app/MainPage.h"
 #include "support/HttpServer.h"
 #include "support/ModalDialog.h"
 #include "support/TestMain.h"
@@ -12,6 +11,7 @@
 #include <QMenu>
 #include <QMWidgets/App.h>
 #include <QMWidgets/MakerSite.h>
+#include <QMWidgets/PromoMenuBar.h>
 #include <QMWidgets/UpdateService.h>
 
 using QMWidgets::App;
@@ -44,14 +44,17 @@ QString lastCheck()
     return App::app()->settingsValue(kLastCheck, QStringLiteral("none")).toString();
 }
 
-/// Titles and texts of the dialogs that come out of a call; each is closed at once.
+/// Titles and texts of the dialogs that come out of a call, with a mark for each picture; they are
+/// closed at once.
 template <class Call> QStringList dialogsOf(const Call& call)
 {
     QStringList shown;
     const auto note = [&shown](QDialog* dialog) {
         shown.append(dialog->windowTitle());
         for (const QLabel* label : dialog->findChildren<QLabel*>()) {
-            shown.last() += QLatin1Char('|') + label->text();
+            const bool isPicture = label->pixmap(Qt::ReturnByValue).width() > 0;
+            shown.last() +=
+                QLatin1Char('|') + (isPicture ? QStringLiteral("picture") : label->text());
         }
     };
     withModalDialogs(call, {note, note, note});
@@ -60,14 +63,14 @@ template <class Call> QStringList dialogsOf(const Call& call)
 
 const QString kNewerDialog =
     QStringLiteral("Tessarin Updates Notification|<CENTER><H2>The newer version of Tessarin is "
-                   "available.<br>Go to the updates web page?</H2></CENTER>|");
+                   "available.<br>Go to the updates web page?</H2></CENTER>|picture");
 const QString kLatestDialog =
     QStringLiteral("Tessarin Updates Notification|<CENTER><H2>You are using the latest version "
-                   "available.<br>Go to the updates web page anyway?</H2></CENTER>|");
+                   "available.<br>Go to the updates web page anyway?</H2></CENTER>|picture");
 const QString kErrorDialog = QStringLiteral(
     "Tessarin Updates Check Error|<H3>No internet connection is available,<br>please, check the "
     "firewall settings and make sure that<br>you are not using the the internet connection via the "
-    "proxy server.</H3>|");
+    "proxy server.</H3>|picture");
 
 } // namespace
 
@@ -83,113 +86,90 @@ private slots:
         QVERIFY(!QApplication::activeModalWidget());
     }
 
-    void theMenuTellsWhateverComesOut_data()
-    {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<QString>("dialog");
-        QTest::newRow("newer") << kNewer << kNewerDialog;
-        QTest::newRow("latest") << kLatest << kLatestDialog;
-        QTest::newRow("useless") << kUseless << kErrorDialog;
-        QTest::newRow("empty") << HttpServer::ok("") << kErrorDialog;
-    }
-
     void theMenuTellsWhateverComesOut()
     {
-        QFETCH(QByteArray, answer);
-        QFETCH(QString, dialog);
-        HttpServer server(answer);
-        App* const app = App::app();
-        askFrom({server.host(), server.host()}, day(-10));
-        MainPage page(nullptr);
-        app->setMainWidget(&page);
-        page.slotFilesDropped({});
-        const auto* const menu = page.findChild<QPushButton*>(QStringLiteral("AppButton"))->menu();
-        QAction* const entry = menu->actions().at(menu->actions().count() - 4);
+        const struct {
+            QByteArray answer;
+            QString dialog;
+        } rows[] = {{kNewer, kNewerDialog},
+                    {kLatest, kLatestDialog},
+                    {kUseless, kErrorDialog},
+                    {HttpServer::ok(""), kErrorDialog}};
+        const QMWidgets::PromoMenuBar bar;
+        const auto* const menu = bar.findChild<QPushButton*>(QStringLiteral("AppButton"))->menu();
+        QAction* const entry = menu->actions().at(5);
         QCOMPARE(entry->text(), QStringLiteral("Check Updates"));
-        QCOMPARE(dialogsOf([entry] { entry->trigger(); }), QStringList(dialog));
-        QCOMPARE(lastCheck(), day(-10));
-    }
-
-    void theStartTellsOfNewsOnly_data()
-    {
-        QTest::addColumn<QString>("last");
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<bool>("isAsked");
-        QTest::addColumn<QString>("lastAfter");
-        QTest::addColumn<QStringList>("dialogs");
-        const QString today = day(0);
-        const QStringList none;
-        QTest::newRow("never before") << QString() << kNewer << false << today << none;
-        QTest::newRow("no day") << "31.12.2024" << kNewer << false << today << none;
-        QTest::newRow("of late") << day(-2) << kNewer << false << day(-2) << none;
-        QTest::newRow("in the future") << day(9) << kNewer << false << day(9) << none;
-        QTest::newRow("newer") << day(-9) << kNewer << true << today << QStringList(kNewerDialog);
-        QTest::newRow("latest") << day(-9) << kLatest << true << today << none;
-        QTest::newRow("useless") << day(-9) << kUseless << true << day(-9) << none;
-        QTest::newRow("empty") << day(-9) << HttpServer::ok("") << true << day(-9) << none;
+        for (const auto& row : rows) {
+            HttpServer server(row.answer);
+            askFrom({server.host(), server.host()}, day(-10));
+            QCOMPARE(dialogsOf([entry] { entry->trigger(); }), QStringList(row.dialog));
+            QCOMPARE(lastCheck(), day(-10));
+        }
     }
 
     void theStartTellsOfNewsOnly()
     {
-        QFETCH(QString, last);
-        QFETCH(QByteArray, answer);
-        QFETCH(bool, isAsked);
-        QFETCH(QString, lastAfter);
-        QFETCH(QStringList, dialogs);
-        HttpServer server(answer);
-        askFrom({server.host()}, last);
-        QCOMPARE(dialogsOf([] { App::app()->nop_cuos(); }), dialogs);
-        QCOMPARE(server.requests().count(), isAsked ? 1 : 0);
-        QCOMPARE(lastCheck(), lastAfter);
+        const QByteArray empty = HttpServer::ok("");
+        const QString today = day(0);
+        const QString longAgo = day(-9);
+        const QStringList none;
+        const struct {
+            const char* name;
+            QString last;
+            QByteArray answer;
+            bool isAsked;
+            QString lastAfter;
+            QStringList dialogs;
+        } rows[] = {{"never before", QString(), kNewer, false, today, none},
+                    {"no day", "31.12.2024", kNewer, false, today, none},
+                    {"of late", day(-2), kNewer, false, day(-2), none},
+                    {"in the future", day(9), kNewer, false, day(9), none},
+                    {"newer", longAgo, kNewer, true, today, {kNewerDialog}},
+                    {"latest", longAgo, kLatest, true, today, none},
+                    {"useless", longAgo, kUseless, true, longAgo, none},
+                    {"empty", longAgo, empty, true, longAgo, none}};
+        for (const auto& row : rows) {
+            HttpServer server(row.answer);
+            askFrom({server.host()}, row.last);
+            QVERIFY2(dialogsOf([] { App::app()->nop_cuos(); }) == row.dialogs, row.name);
+            QVERIFY2(server.requests().count() == (row.isAsked ? 1 : 0), row.name);
+            QVERIFY2(lastCheck() == row.lastAfter, row.name);
+        }
     }
 
     void theDialogsBoxSwitchesTheCheckAtOnce()
     {
         HttpServer server(kNewer);
         App* const app = App::app();
-        app->setUpdateService({{server.host()}, 60000});
-        app->setSettingsValue(kCheckedAtStart, true);
+        askFrom({server.host()}, day(0));
         app->setupWebLinks();
+        const QUrl page(QMWidgets::MakerSite::page(QStringLiteral("/apps/tessarin")));
         UrlCatcher catcher;
-        withModalDialog([app] { app->slotCheckUpdate(); },
-                        [](QDialog* dialog) {
-                            QCOMPARE(dialog->objectName(), QStringLiteral("UpdateDialog"));
-                            bool hasPicture = false;
-                            for (const QLabel* label : dialog->findChildren<QLabel*>()) {
-                                hasPicture = hasPicture || label->pixmap(Qt::ReturnByValue).width();
-                            }
-                            QVERIFY(hasPicture);
-                            auto* const box = dialog->findChild<QCheckBox*>();
-                            QVERIFY(box->isChecked());
-                            box->click();
-                            QCOMPARE(App::app()->settingsValue(kCheckedAtStart, true), false);
-                            buttonOf(dialog, QStringLiteral("No"))->click();
-                        });
-        QVERIFY(catcher.take().isEmpty());
-        QCOMPARE(app->settingsValue(kCheckedAtStart, true), false);
-
-        withModalDialog([app] { app->slotCheckUpdate(); },
-                        [](QDialog* dialog) {
-                            QVERIFY(!dialog->findChild<QCheckBox*>()->isChecked());
-                            buttonOf(dialog, QStringLiteral("Yes"))->click();
-                        });
-        QCOMPARE(catcher.take(),
-                 QList<QUrl>({QUrl(QMWidgets::MakerSite::page(QStringLiteral("/apps/tessarin")))}));
+        for (const bool isOn : {true, false}) {
+            app->setSettingsValue(kCheckedAtStart, isOn);
+            withModalDialog([app] { app->slotCheckUpdate(); },
+                            [&](QDialog* dialog) {
+                                auto* const box = dialog->findChild<QCheckBox*>();
+                                QCOMPARE(box->isChecked(), isOn);
+                                box->click();
+                                QCOMPARE(app->settingsValue(kCheckedAtStart, isOn), !isOn);
+                                buttonOf(dialog, isOn ? "No" : "Yes")->click();
+                            });
+            QCOMPARE(catcher.take(), isOn ? QList<QUrl>() : QList<QUrl>({page}));
+        }
     }
 
     void oneCheckRunsAtATime()
     {
         HttpServer server(kLatest);
         App* const app = App::app();
-        app->setUpdateService({{server.host()}, 60000});
-        const auto askAgain = [app] {
+        askFrom({server.host()}, day(-9));
+        connect(&server, &HttpServer::asked, app, [app] {
             app->slotCheckUpdate();
             app->slotCheckUpdate();
-        };
-        connect(&server, &HttpServer::asked, app, askAgain);
+        });
         QCOMPARE(dialogsOf([app] { app->slotCheckUpdate(); }), QStringList(kLatestDialog));
         // The user gets an answer also when the check at the start was the first to ask.
-        app->setSettingsValue(kLastCheck, day(-9));
         QCOMPARE(dialogsOf([app] { app->nop_cuos(); }), QStringList(kLatestDialog));
         QCOMPARE(server.requests().count(), 2);
         QCOMPARE(lastCheck(), day(0));
@@ -198,69 +178,50 @@ private slots:
         QCOMPARE(dialogsOf([app] { app->nop_cuos(); }), QStringList());
     }
 
-    void theStartWaitsForOtherWindows_data()
+    void theStartWaitsForTheUser_data()
     {
-        QTest::addColumn<bool>("isAskedBefore");
-        QTest::newRow("before the request") << false;
-        QTest::newRow("before the news") << true;
+        QTest::addColumn<bool>("isAskedBefore"); // than the user opens his list
+        QTest::addColumn<bool>("isToldByMenu");
+        QTest::newRow("before the request") << false << false;
+        QTest::newRow("before the news") << true << false;
+        QTest::newRow("who has asked in the meantime") << true << true;
     }
 
-    void theStartWaitsForOtherWindows()
+    void theStartWaitsForTheUser()
     {
         QFETCH(bool, isAskedBefore);
+        QFETCH(bool, isToldByMenu);
         HttpServer server(kNewer);
         App* const app = App::app();
         askFrom({server.host()}, day(-9));
         QWidget window;
-        QComboBox box(&window);
-        box.addItem(QStringLiteral("item"));
+        QComboBox list(&window);
+        list.addItem(QStringLiteral("item"));
+        QPushButton button(&window);
+        connect(&button, &QPushButton::clicked, app, &App::slotCheckUpdate);
         window.show();
-        const auto openList = [&box] {
-            box.showPopup();
-        };
         if (isAskedBefore) {
-            connect(&server, &HttpServer::asked, &box, openList);
+            connect(&server, &HttpServer::asked, &list, &QComboBox::showPopup);
         } else {
-            openList();
+            list.showPopup();
         }
         app->nop_cuos();
         QVERIFY(QApplication::activePopupWidget());
         QVERIFY(!QApplication::activeModalWidget());
         QCOMPARE(server.requests().count(), isAskedBefore ? 1 : 0);
         QCOMPARE(lastCheck(), day(-9));
-        box.hidePopup();
-        const auto isTold = [] {
-            return lastCheck() == day(0);
-        };
-        QCOMPARE(dialogsOf([&] { return QTest::qWaitFor(isTold, 30000); }),
-                 QStringList(kNewerDialog));
-        QVERIFY(isTold());
-    }
-
-    void newsThatTheUserHasAskedForComesOnce()
-    {
-        HttpServer server(kNewer);
-        App* const app = App::app();
-        askFrom({server.host()}, day(-9));
-        QWidget window;
-        QComboBox box(&window);
-        box.addItem(QStringLiteral("item"));
-        QPushButton button(&window);
-        connect(&button, &QPushButton::clicked, app, &App::slotCheckUpdate);
-        connect(&server, &HttpServer::asked, &box, &QComboBox::showPopup);
-        window.show();
-        app->nop_cuos();
-        QVERIFY(QApplication::activePopupWidget());
-        server.disconnect(&box);
-        box.hidePopup();
+        server.disconnect(&list);
+        list.hidePopup();
         const auto isNoted = [] {
             return lastCheck() == day(0);
         };
-        QCOMPARE(dialogsOf([&] {
-                     QTest::keyClick(&button, Qt::Key_Space);
-                     return QTest::qWaitFor(isNoted, 30000);
-                 }),
-                 QStringList(kNewerDialog));
+        const auto wait = [&] {
+            if (isToldByMenu) {
+                QTest::keyClick(&button, Qt::Key_Space);
+            }
+            return QTest::qWaitFor(isNoted, 30000);
+        };
+        QCOMPARE(dialogsOf(wait), QStringList(kNewerDialog)); // once
         QVERIFY(isNoted());
     }
 
@@ -287,48 +248,43 @@ private slots:
         QVERIFY(App::isUserFree());
     }
 
-    void theProgramEndsInTheMiddleOfACheck_data()
-    {
-        QTest::addColumn<QByteArray>("answer");
-        QTest::addColumn<bool>("isQuiet");
-        for (const bool isQuiet : {false, true}) {
-            const char* const who = isQuiet ? "start" : "menu";
-            QTest::addRow("%s, no answer yet", who) << QByteArray() << isQuiet;
-            QTest::addRow("%s, dialog open", who) << kNewer << isQuiet;
-        }
-        QTest::newRow("menu, error shown") << kUseless << false;
-    }
-
     void theProgramEndsInTheMiddleOfACheck()
     {
-        QFETCH(QByteArray, answer);
-        QFETCH(bool, isQuiet);
-        HttpServer server(answer);
+        const QByteArray silent;
+        const struct {
+            const char* name;
+            void (App::*check)();
+            QByteArray answer;
+            int boxes; // which the main window owns
+        } rows[] = {{"menu, no answer yet", &App::slotCheckUpdate, silent, 0},
+                    {"menu, dialog open", &App::slotCheckUpdate, kNewer, 0},
+                    {"menu, error shown", &App::slotCheckUpdate, kUseless, 1},
+                    {"start, no answer yet", &App::nop_cuos, silent, 0},
+                    {"start, dialog open", &App::nop_cuos, kNewer, 0}};
         App* const app = App::app();
-        askFrom({server.host(), server.host()}, day(-9));
-        auto mainWindow = std::make_unique<QWidget>();
-        app->setMainWidget(mainWindow.get());
-        int dialogs = 0;
-        QTimer watch;
-        connect(&watch, &QTimer::timeout, app, [&] {
-            if (QApplication::activeModalWidget()) {
-                ++dialogs;
-                app->quit();
-            } else if (answer.isEmpty() && !server.requests().isEmpty()) {
-                app->quit();
-            }
-        });
-        watch.start(0);
-        QTimer::singleShot(0, app, isQuiet ? &App::nop_cuos : &App::slotCheckUpdate);
-        QCOMPARE(App::exec(), 0);
-        QCOMPARE(dialogs > 0, !answer.isEmpty());
-        // Nothing is begun after the end: no second request, no message box, which the main window
-        // would still own.
-        QCOMPARE(server.requests().count(), 1);
-        QCOMPARE(mainWindow->findChildren<QDialog*>().count(), answer == kUseless ? 1 : 0);
-        mainWindow.reset();
-        QVERIFY(!QApplication::activeModalWidget());
-        QVERIFY(App::isUserFree());
+        for (const auto& row : rows) {
+            HttpServer server(row.answer);
+            askFrom({server.host(), server.host()}, day(-9));
+            auto mainWindow = std::make_unique<QWidget>();
+            app->setMainWidget(mainWindow.get());
+            bool hasDialog = false;
+            QTimer watch;
+            connect(&watch, &QTimer::timeout, app, [&] {
+                hasDialog = hasDialog || QApplication::activeModalWidget();
+                if (hasDialog || (row.answer.isEmpty() && !server.requests().isEmpty())) {
+                    app->quit();
+                }
+            });
+            watch.start(0);
+            QTimer::singleShot(0, app, row.check);
+            QCOMPARE(App::exec(), 0);
+            QVERIFY2(hasDialog == !row.answer.isEmpty(), row.name);
+            // Nothing is begun after the end: no second request, no message.
+            QVERIFY2(server.requests().count() == 1, row.name);
+            QVERIFY2(mainWindow->findChildren<QDialog*>().count() == row.boxes, row.name);
+            mainWindow.reset();
+            QVERIFY2(!QApplication::activeModalWidget() && App::isUserFree(), row.name);
+        }
     }
 };
 

@@ -1,124 +1,148 @@
+#include "support/Photos.h"
 #include "support/TestMain.h"
 
-#include <QLabel>
+#include <QDir>
 #include <QLocale>
 #include <QMWidgets/App.h>
 #include <QMWidgets/BuildDate.h>
 #include <QPushButton>
-#include <QSettings>
+#include <QScopeGuard>
 #include <QSignalSpy>
 
 using QMWidgets::App;
+
+namespace
+{
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("unreadable");
+}
+
+} // namespace
 
 class tst_App : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void settingsLieInTheApplicationsGroup()
-    {
-        App* app = App::app();
-        const QString key = QStringLiteral("some/number");
-        QCOMPARE(app->settingsValue(key, 7).toInt(), 7);
-        app->setSettingsValue(key, 8);
-        QCOMPARE(app->settingsValue(key, 7).toInt(), 8);
-        const QSettings store(QStringLiteral("Corvane"), QStringLiteral("Tessarin"));
-        QCOMPARE(store.value(QStringLiteral("Tessarin/some/number")).toInt(), 8);
-    }
-
-    void readsTheCompilersDate_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QDate>("date");
-        QTest::newRow("two digits") << "Oct 18 2014" << QDate(2014, 10, 18);
-        QTest::newRow("two blanks") << "Jan  1 2024" << QDate(2024, 1, 1);
-        QTest::newRow("last month") << "Dec 31 1999" << QDate(1999, 12, 31);
-        QTest::newRow("other case") << "oct 18 2014" << QDate();
-        QTest::newRow("no such day") << "Feb 30 2014" << QDate();
-        QTest::newRow("empty") << "" << QDate();
-    }
-
     void readsTheCompilersDate()
     {
-        QFETCH(QString, text);
-        QFETCH(QDate, date);
-        const QLocale before;
+        const struct {
+            const char* text;
+            QDate date;
+        } rows[] = {{"Oct 18 2014", QDate(2014, 10, 18)},
+                    {"Jan  1 2024", QDate(2024, 1, 1)},
+                    {"Dec 31 1999", QDate(1999, 12, 31)},
+                    {"oct 18 2014", QDate()},
+                    {"Feb 30 2014", QDate()},
+                    {"", QDate()}};
+        // The compiler's months are English ones wherever the user lives.
+        const auto restore = qScopeGuard([before = QLocale()] { QLocale::setDefault(before); });
         QLocale::setDefault(QLocale(QLocale::German));
-        const QDate read = QMWidgets::parseBuildDate(text);
-        QLocale::setDefault(before);
-        QCOMPARE(read, date);
+        for (const auto& row : rows) {
+            QVERIFY2(QMWidgets::parseBuildDate(QLatin1String(row.text)) == row.date, row.text);
+        }
         QVERIFY(App::app()->buildDate().isValid());
     }
 
-    void tellsOfEvents()
+    void tellsOfPresses()
     {
-        App* app = App::app();
-        QSignalSpy presses(app, &App::mouseButtonPress);
-        QSignalSpy activated(app, &App::applicationActivated);
-        QSignalSpy deactivated(app, &App::applicationDeactivated);
-
-        QEvent activate(QEvent::ApplicationActivate);
-        QCoreApplication::sendEvent(app, &activate);
-        QCOMPARE(activated.count(), 1);
-        QCOMPARE(deactivated.count(), 0);
-        QEvent deactivate(QEvent::ApplicationDeactivate);
-        QCoreApplication::sendEvent(app, &deactivate);
-        QCOMPARE(activated.count(), 1);
-        QCOMPARE(deactivated.count(), 1);
-
+        QSignalSpy presses(App::app(), &App::mouseButtonPress);
         QPushButton button;
-        QSignalSpy reached(&button, &QPushButton::pressed);
+        QSignalSpy clicks(&button, &QPushButton::clicked);
         QTest::keyClick(&button, Qt::Key_A);
-        QCOMPARE(presses.count(), 0);
-        QTest::mousePress(&button, Qt::LeftButton);
-        QVERIFY(presses.count() > 0);
-        QCOMPARE(reached.count(), 1);
-        QTest::mouseRelease(&button, Qt::LeftButton);
+        QVERIFY(presses.isEmpty());
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QVERIFY(!presses.isEmpty());
+        QCOMPARE(clicks.count(), 1);
     }
 
-    void veilsTheMainWindow()
+    void veilsTheMainWindowWhileAnotherIsActive()
     {
-        App* app = App::app();
-        QWidget window;
-        window.resize(200, 100);
-        window.show();
-        app->setMainWidget(&window);
-        const auto* veil = window.findChild<QWidget*>(QStringLiteral("MainWidgetBlender"));
-        QVERIFY(veil);
-        QVERIFY(veil->isHidden());
-
-        QWidget panel(&window);
-        panel.show();
-        app->slotSetBlendMainWidget(true);
-        QVERIFY(veil->isVisible());
-        QCOMPARE(veil->geometry(), window.rect());
-        QCOMPARE(static_cast<const QObject*>(veil), window.children().last());
-        app->slotSetBlendMainWidget(false);
-        QVERIFY(veil->isHidden());
-
-        QWidget other;
-        other.show();
-        QApplication::setActiveWindow(&other);
-        app->slotFocusChanged(nullptr, nullptr);
-        QVERIFY(veil->isVisible());
-        QApplication::setActiveWindow(&window);
-        app->slotFocusChanged(nullptr, nullptr);
-        QVERIFY(veil->isHidden());
-    }
-
-    void outlivesTheMainWindow()
-    {
-        App* app = App::app();
+        App* const app = App::app();
         {
             QWidget window;
+            window.show();
             app->setMainWidget(&window);
-            QCOMPARE(app->mainWidget(), &window);
-            app->setMainWidget(&window);
-            QCOMPARE(window.findChildren<QLabel*>().count(), 1);
+            app->setMainWidget(&window); // takes the first veil away
+            const auto veils = window.findChildren<QWidget*>(QStringLiteral("MainWidgetBlender"));
+            QCOMPARE(veils.count(), 1);
+            QVERIFY(veils.first()->isHidden());
+            window.resize(200, 100);
+            const QWidget panel(&window);
+
+            QWidget other;
+            other.show();
+            QApplication::setActiveWindow(&other);
+            app->slotFocusChanged(nullptr, nullptr);
+            QVERIFY(veils.first()->isVisible());
+            QCOMPARE(veils.first()->geometry(), window.rect());
+            QCOMPARE(window.children().last(), veils.first());
+            QApplication::setActiveWindow(&window);
+            app->slotFocusChanged(nullptr, nullptr);
+            QVERIFY(veils.first()->isHidden());
         }
         QVERIFY(!app->mainWidget());
         app->slotSetBlendMainWidget(true);
         app->slotFocusChanged(nullptr, nullptr);
+    }
+
+    void anyFolderCountsAsAnEarlierRun()
+    {
+        const struct {
+            QString (*folder)(bool create);
+            const char* path; // in the home
+        } rows[] = {{App::appHomeFolder, "/Tessarin/"},
+                    {App::appDataFolder, "/data/Corvane/Tessarin"},
+                    {App::appCacheFolder, "/cache/Corvane/Tessarin"},
+                    {App::appDocumentsFolder, "/Documents/Corvane/Tessarin/"},
+                    {App::defaultOutputFolder, "/Pictures/Corvane/Tessarin/"},
+                    {App::appMusicFolder, "/Music/Corvane/Tessarin/"},
+                    {App::appMoviesFolder, "/Videos/Corvane/Tessarin/"}};
+        for (const auto& row : rows) {
+            QCOMPARE(row.folder(false), QDir::homePath() + QLatin1String(row.path));
+            QDir(row.folder(false)).removeRecursively();
+        }
+        for (const auto& row : rows) {
+            QVERIFY2(App::hasNoFolders(), row.path);
+            const QString path = row.folder(true);
+            QVERIFY2(QFileInfo(path).isDir() && !App::hasNoFolders(), row.path);
+            QDir(path).removeRecursively();
+        }
+    }
+
+    void copiesAWholeFileOrNothing()
+    {
+        Photos files;
+        const QByteArray content("\0a\r\nb\xff", 6);
+        files.addFile(QStringLiteral("source"), content);
+        files.addFile(QStringLiteral("old"), "old");
+        const struct {
+            const char* source;
+            const char* folder;
+            const char* name;
+            bool succeeds;
+            const char* target;
+            QByteArray targetAfter;
+        } rows[] = {{"source", "new/deep", "", true, "new/deep/source", content},
+                    {"source", "new/deep", "other", true, "new/deep/other", content},
+                    {"source", ".", "old", true, "old", "old"},
+                    // An existing target is enough, whatever has become of the source.
+                    {"gone", ".", "old", true, "old", "old"},
+                    {"gone", "new/deep", "lost", false, "new/deep/lost", "unreadable"},
+                    {"new", "new/deep", "lost", false, "new/deep/lost", "unreadable"},
+                    // A file can't be written into, not even by the superuser.
+                    {"source", "old", "name", false, "old", "old"}};
+        for (const auto& row : rows) {
+            const bool isCopied =
+                App::copyFileToFolder(files.path(row.source), files.path(row.folder), row.name);
+            QVERIFY2(isCopied == row.succeeds, row.target);
+            QVERIFY2(contentOf(files.path(row.target)) == row.targetAfter, row.target);
+        }
+        const QDir folder(files.path(QStringLiteral("new/deep")));
+        QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden), QStringList({"other", "source"}));
     }
 };
 

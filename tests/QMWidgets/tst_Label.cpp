@@ -1,12 +1,15 @@
-#include "support/ImageCompare.h"
+#include "support/Photos.h"
 #include "support/TestMain.h"
 
 #include <QMWidgets/App.h>
 #include <QMWidgets/Label.h>
+#include <QMWidgets/MovieLabel.h>
 #include <QPainter>
+#include <QSignalSpy>
 
 using QMWidgets::App;
 using QMWidgets::Label;
+using QMWidgets::MovieLabel;
 
 namespace
 {
@@ -17,12 +20,13 @@ QImage grabbed(Label& label)
     return label.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-QRect boundsOf(const QImage& image, QRgb color)
+/// What is not white, the ground.
+QRect boundsOf(const QImage& image)
 {
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) == color) {
+            if (image.pixel(x, y) != qRgb(255, 255, 255)) {
                 bounds |= QRect(x, y, 1, 1);
             }
         }
@@ -30,12 +34,13 @@ QRect boundsOf(const QImage& image, QRgb color)
     return bounds;
 }
 
-QPixmap filled(int width, int height)
-{
-    QPixmap pixmap(width, height);
-    pixmap.fill(Qt::red);
-    return pixmap;
-}
+/// Two frames of one pixel, 10 milliseconds each, over and over.
+const char kMovie[] = "GIF89a\x01\x00\x01\x00\x80\x00\x00\x00\x00\x00\xff\xff\xff"
+                      "!\xff\x0bNETSCAPE2.0\x03\x01\x00\x00\x00"
+                      "!\xf9\x04\x00\x01\x00\x00\x00,\x00\x00\x00\x00\x01\x00\x01\x00\x00"
+                      "\x02\x02\x44\x01\x00"
+                      "!\xf9\x04\x00\x01\x00\x00\x00,\x00\x00\x00\x00\x01\x00\x01\x00\x00"
+                      "\x02\x02\x4c\x01\x00;";
 
 } // namespace
 
@@ -44,81 +49,78 @@ class tst_Label : public QObject
     Q_OBJECT
 
 private slots:
-    void centresThePicture_data()
+    /// The left half of each picture is red, the right one blue.
+    void placesThePicture()
     {
-        QTest::addColumn<QSize>("label");
-        QTest::addColumn<QSize>("picture");
-        QTest::addColumn<QRect>("place");
-        QTest::newRow("wide") << QSize(40, 40) << QSize(20, 10) << QRect(0, 10, 40, 20);
-        QTest::newRow("high") << QSize(40, 40) << QSize(10, 20) << QRect(10, 0, 20, 40);
-        QTest::newRow("larger") << QSize(40, 20) << QSize(400, 400) << QRect(10, 0, 20, 20);
-        QTest::newRow("equal") << QSize(30, 20) << QSize(300, 200) << QRect(0, 0, 30, 20);
-        // (21 - 14) / 2 is truncated to 3.
-        QTest::newRow("odd rest") << QSize(42, 21) << QSize(3, 1) << QRect(0, 3, 42, 14);
-    }
-
-    void centresThePicture()
-    {
-        QFETCH(QSize, label);
-        QFETCH(QSize, picture);
-        QFETCH(QRect, place);
-        Label widget;
-        widget.resize(label);
-        widget.setPixmap(filled(picture.width(), picture.height()));
+        const struct {
+            const char* name;
+            bool isExpanding;
+            QSize label;
+            QSize picture;
+            QRect place;
+            QPoint middle;
+        } rows[] = {{"wide", false, {40, 40}, {20, 10}, {0, 10, 40, 20}, {20, 20}},
+                    {"high", false, {40, 40}, {10, 20}, {10, 0, 20, 40}, {20, 20}},
+                    {"larger", false, {40, 20}, {400, 400}, {10, 0, 20, 20}, {20, 10}},
+                    {"equal", false, {30, 20}, {300, 200}, {0, 0, 30, 20}, {15, 10}},
+                    // (21 - 14) / 2 is truncated to 3.
+                    {"odd rest", false, {42, 21}, {6, 2}, {0, 3, 42, 14}, {21, 10}},
+                    // From the corner: the picture becomes 60 wide, its end is cut off.
+                    {"expanding", true, {40, 30}, {20, 10}, {0, 0, 40, 30}, {30, 15}}};
         const int ratio = int(App::devicePixelRatio());
-        QCOMPARE(boundsOf(grabbed(widget), qRgb(255, 0, 0)),
-                 QRect(place.topLeft() * ratio, place.size() * ratio));
+        for (const auto& row : rows) {
+            QPixmap picture(row.picture);
+            picture.fill(Qt::red);
+            const int half = row.picture.width() / 2;
+            QPainter(&picture).fillRect(half, 0, half, row.picture.height(), Qt::blue);
+            Label label;
+            label.resize(row.label);
+            label.setExpanding(row.isExpanding);
+            label.setPixmap(picture);
+            const QImage shown = grabbed(label);
+            const QRect place(row.place.topLeft() * ratio, row.place.size() * ratio);
+            QVERIFY2(boundsOf(shown) == place, row.name);
+            const QPoint step(5, 0);
+            QVERIFY2(shown.pixelColor((row.middle - step) * ratio) == Qt::red, row.name);
+            QVERIFY2(shown.pixelColor((row.middle + step) * ratio) == Qt::blue, row.name);
+        }
     }
 
     void isSharpOnThisScreen()
     {
         const int ratio = int(App::devicePixelRatio());
-        QImage pattern(40 * ratio, 20 * ratio, QImage::Format_RGB32);
-        for (int y = 0; y < pattern.height(); ++y) {
-            for (int x = 0; x < pattern.width(); ++x) {
-                pattern.setPixel(x, y, qRgb(x * 3, y * 5, (x + y) % 2 * 255));
-            }
-        }
+        const QImage picture = noise(QSize(40, 20) * ratio, 1, QImage::Format_RGB32, true);
         Label label;
         label.resize(40, 40);
-        label.setPixmap(QPixmap::fromImage(pattern));
-        QImage shown = grabbed(label).copy(0, 10 * ratio, pattern.width(), pattern.height());
-        shown.setDotsPerMeterX(pattern.dotsPerMeterX());
-        shown.setDotsPerMeterY(pattern.dotsPerMeterY());
-        COMPARE_IMAGES(shown, pattern);
+        label.setPixmap(QPixmap::fromImage(picture));
+        QImage shown = grabbed(label).copy(QRect(QPoint(0, 10) * ratio, picture.size()));
+        shown.setDevicePixelRatio(1);
+        QCOMPARE(shown, picture);
     }
 
-    void expandsFromTheCorner()
+    void aMoviePlaysWhileShownOrForItsTime()
     {
-        QPixmap pixmap = filled(20, 10);
-        QPainter(&pixmap).fillRect(10, 0, 10, 10, Qt::blue);
-        Label label;
-        label.resize(40, 30);
-        label.setExpanding(true);
-        label.setPixmap(pixmap);
-        // The picture becomes 60 wide and 30 high: its blue half begins at 30, its end is cut off.
-        const QImage image = grabbed(label);
-        const int ratio = int(App::devicePixelRatio());
-        QCOMPARE(QColor(image.pixel(0, 0)), QColor(Qt::red));
-        QCOMPARE(QColor(image.pixel(25 * ratio, 15 * ratio)), QColor(Qt::red));
-        QCOMPARE(QColor(image.pixel(35 * ratio, 15 * ratio)), QColor(Qt::blue));
-        QCOMPARE(QColor(image.pixel(40 * ratio - 1, 30 * ratio - 1)), QColor(Qt::blue));
-    }
-
-    void nullPictureShowsOnlyTheText()
-    {
-        Label label;
-        QLabel plain;
-        for (QLabel* each : {static_cast<QLabel*>(&label), &plain}) {
-            each->resize(60, 30);
-            each->setText(QStringLiteral("text"));
+        Photos files;
+        const QByteArray content(kMovie, sizeof kMovie - 1);
+        const QUrl file = files.addFile(QStringLiteral("movie.gif"), content);
+        for (const int duration : {0, 1}) {
+            MovieLabel label(file.toLocalFile());
+            label.setDuration(duration);
+            const QMovie* const movie = label.movie();
+            QSignalSpy frames(movie, &QMovie::frameChanged);
+            for (const int shown : {1, 2}) {
+                QCOMPARE(movie->state(), QMovie::NotRunning);
+                label.show();
+                QCOMPARE(movie->state(), QMovie::Running);
+                if (duration > 0) {
+                    QTRY_COMPARE(movie->state(), QMovie::NotRunning);
+                } else {
+                    QTRY_VERIFY(frames.count() > 6 * shown);
+                }
+                label.hide();
+            }
+            QCOMPARE(movie->state(), QMovie::NotRunning);
         }
-        label.setPixmap(filled(4, 4));
-        label.setPixmap(QPixmap());
-        plain.setStyleSheet(QStringLiteral("background-color: white"));
-        COMPARE_IMAGES(grabbed(label),
-                       plain.grab().toImage().convertToFormat(QImage::Format_RGB32));
-        QVERIFY(boundsOf(grabbed(label), qRgb(255, 255, 255)).isValid());
     }
 };
 

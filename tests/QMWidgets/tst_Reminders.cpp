@@ -17,9 +17,11 @@ namespace
 const QString kOn = QStringLiteral("AutoReminder");
 const QString kCount = QStringLiteral("AutoReminderCount");
 
-void store(bool on, int count)
+/// Has the reminders at work: every so many occasions, with that many behind them.
+void prepare(int period, int type, int count)
 {
-    App::app()->setSettingsValue(kOn, on);
+    App::app()->scheduleReminder(period, type);
+    App::app()->setSettingsValue(kOn, true);
     App::app()->setSettingsValue(kCount, count);
 }
 
@@ -33,18 +35,6 @@ int count()
     return App::app()->settingsValue(kCount, 1).toInt();
 }
 
-/// The texts of the buttons that are not hidden, without those of the social pages.
-QStringList buttonTexts(const QDialog& dialog)
-{
-    QStringList texts;
-    for (const QPushButton* button : dialog.findChildren<QPushButton*>("PushButton")) {
-        if (!button->isHidden()) {
-            texts.append(button->text());
-        }
-    }
-    return texts;
-}
-
 } // namespace
 
 class tst_Reminders : public QObject
@@ -52,7 +42,7 @@ class tst_Reminders : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { store(false, 1); }
+    void cleanup() { App::app()->setSettingsValue(kOn, false); }
 
     void choosesAmongTheTypesAskedFor()
     {
@@ -69,64 +59,51 @@ private slots:
         }
     }
 
-    void occasions_data()
+    void countsOccasions()
     {
-        QTest::addColumn<bool>("on");
-        QTest::addColumn<int>("stored");
-        QTest::addColumn<QString>(
-            "button"); ///< pressed in the dialog, or "-" if none is to come; empty for closing it
-        QTest::addColumn<bool>("onAfter");
-        QTest::addColumn<int>("storedAfter");
-        const QString none = QStringLiteral("-");
-        const QString later = QStringLiteral("&Maybe Later");
-        const QString never = QStringLiteral("&Never Ask Me Again");
         const int largest = std::numeric_limits<int>::max();
-        QTest::newRow("due") << true << 5 << later << true << 6;
-        QTest::newRow("due, closed") << true << 10 << QString() << true << 11;
-        QTest::newRow("due, never") << true << 5 << never << false << 6;
-        QTest::newRow("not due") << true << 6 << none << true << 7;
-        QTest::newRow("fresh") << true << 1 << none << true << 2;
-        QTest::newRow("off") << false << 5 << none << false << 5;
-        QTest::newRow("largest") << true << largest << none << true << 1;
-        QTest::newRow("negative") << true << -3 << none << true << 1;
-    }
-    void occasions()
-    {
-        QFETCH(bool, on);
-        QFETCH(int, stored);
-        QFETCH(QString, button);
-        QFETCH(bool, onAfter);
-        QFETCH(int, storedAfter);
+        const char* const none = nullptr;
+        const struct {
+            const char* name;
+            int period;
+            int type;
+            int stored;
+            const char* button; // pressed in the dialog; empty closes it; null if none is to come
+            bool isOnAfter;
+            int storedAfter;
+        } rows[] = {{"due", 5, TellReminder, 5, "&Maybe Later", true, 6},
+                    {"due, closed", 5, TellReminder, 10, "", true, 11},
+                    {"due, never", 5, JoinReminder, 5, "&Never Ask Me Again", false, 6},
+                    {"due, rated", 1, RateReminder, 4, "&Rate It Now", false, 5},
+                    {"not due", 5, TellReminder, 6, none, true, 7},
+                    {"fresh", 5, TellReminder, 1, none, true, 2},
+                    {"no period", 0, RateReminder, 4, none, true, 5},
+                    {"largest", 5, TellReminder, largest, none, true, 1},
+                    {"negative", 5, TellReminder, -3, none, true, 1}};
         App* const app = App::app();
-        app->scheduleReminder(5, TellReminder);
-        store(on, stored);
-        QString title = QStringLiteral("-");
-        withModalDialog([app] { app->slotCallRateReminderInternal(); },
-                        [&](QDialog* dialog) {
-                            title = dialog->windowTitle();
-                            if (!button.isEmpty()) {
-                                buttonOf(dialog, button)->click();
-                            }
-                        });
-        QCOMPARE(title, button == QLatin1String("-") ? button : QStringLiteral("Share"));
-        QCOMPARE(isOn(), onAfter);
-        QCOMPARE(count(), storedAfter);
-        QVERIFY(!QApplication::activeModalWidget());
-    }
-
-    void formsShowTheirButtons()
-    {
-        const RateReminderDialog rate(nullptr);
-        const TellReminderDialog tell(nullptr);
-        const JoinReminderDialog join(nullptr);
-        const QStringList two = {"&Maybe Later", "&Never Ask Me Again"};
-        QCOMPARE(buttonTexts(rate),
-                 QStringList({"&Rate It Now", "&Maybe Later", "&Never Ask Me Again"}));
-        QCOMPARE(buttonTexts(tell), two);
-        QCOMPARE(buttonTexts(join), two);
-        QCOMPARE(rate.windowTitle(), QStringLiteral("Help Spread the Word about \"Tessarin\""));
-        QCOMPARE(tell.windowTitle(), QStringLiteral("Share"));
-        QCOMPARE(join.windowTitle(), QStringLiteral("Join Us"));
+        QWidget window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QList<QWidget*> parents;
+        for (const auto& row : rows) {
+            prepare(row.period, row.type, row.stored);
+            const int before = parents.size();
+            withModalDialog([app] { app->slotCallRateReminderInternal(); },
+                            [&](QDialog* dialog) {
+                                parents += dialog->parentWidget();
+                                if (!QLatin1String(row.button).isEmpty()) {
+                                    buttonOf(dialog, QLatin1String(row.button))->click();
+                                }
+                            });
+            QVERIFY2((parents.size() > before) == (row.button != none), row.name);
+            QVERIFY2(isOn() == row.isOnAfter && count() == row.storedAfter, row.name);
+        }
+        QCOMPARE(parents.first(), &window);
+        // Switched off, they don't even count.
+        prepare(5, TellReminder, 5);
+        app->setSettingsValue(kOn, false);
+        app->slotCallRateReminderInternal();
+        QCOMPARE(count(), 5);
     }
 
     void enterAnswersHarmlessly()
@@ -142,64 +119,17 @@ private slots:
             form.first->show();
             QTest::keyClick(form.first, Qt::Key_Return);
             QCOMPARE(form.first->answer(), form.second);
+            const bool isRating = form.first == &rate;
+            QCOMPARE(buttonOf(form.first, QStringLiteral("&Rate It Now")) != nullptr, isRating);
         }
         QVERIFY(catcher.take().isEmpty());
-    }
-
-    void ratingEndsTheReminders()
-    {
-        App* const app = App::app();
-        app->scheduleReminder(1, RateReminder);
-        store(true, 4);
-        QWidget window;
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        const QWidget* parent = nullptr;
-        withModalDialog([app] { app->slotCallRateReminderInternal(); },
-                        [&](QDialog* dialog) {
-                            parent = dialog->parentWidget();
-                            buttonOf(dialog, QStringLiteral("&Rate It Now"))->click();
-                        });
-        QCOMPARE(parent, &window);
-        QVERIFY(!isOn());
-        QCOMPARE(count(), 5);
-    }
-
-    void aPeriodOfNothingShowsNothing()
-    {
-        App* const app = App::app();
-        app->scheduleReminder(0, RateReminder);
-        store(true, 4);
-        app->slotCallRateReminderInternal();
-        QCOMPARE(count(), 5);
-    }
-
-    /// As in a flow that lets events through between two operations.
-    void waitsForWorkInHand()
-    {
-        App* const app = App::app();
-        app->scheduleReminder(5, JoinReminder);
-        store(true, 5);
-        bool occasion = false;
-        const auto work = [&] {
-            QTimer::singleShot(0, app, [&] {
-                app->slotCallRateReminderInternal();
-                occasion = true;
-            });
-            QVERIFY(QTest::qWaitFor([&] { return occasion; }));
-        };
-        QTimer::singleShot(0, app, work);
-        withModalDialog([&] { QVERIFY(QTest::qWaitFor([&] { return occasion; })); },
-                        [](QDialog*) { QFAIL("a dialog stops the work"); });
-        QCOMPARE(count(), 5);
     }
 
     /// The user's own dialog stays on top, and the reminder comes after it.
     void waitsForTheUser()
     {
         App* const app = App::app();
-        app->scheduleReminder(5, JoinReminder);
-        store(true, 5);
+        prepare(5, JoinReminder, 5);
         QDialog work;
         withModalDialog([&work] { work.exec(); },
                         [&](QDialog*) {

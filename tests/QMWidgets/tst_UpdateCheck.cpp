@@ -8,8 +8,6 @@
 
 using namespace QMWidgets;
 
-Q_DECLARE_METATYPE(QMWidgets::UpdateState)
-
 namespace
 {
 const QByteArray kAnswer = "!date!;;;2024-05-31";
@@ -20,74 +18,67 @@ class tst_UpdateCheck : public QObject
     Q_OBJECT
 
 private slots:
-    void readsAnswers_data()
+    void readsAnswers()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<UpdateState>("state");
         const auto newer = UpdateState::Newer;
         const auto latest = UpdateState::Latest;
         const auto unknown = UpdateState::Unknown;
-        QTest::newRow("later") << kAnswer << newer;
-        QTest::newRow("same day") << QByteArray("!date!;;;2024-05-30") << latest;
-        QTest::newRow("earlier") << QByteArray("!date!;;;2023-12-31") << latest;
-        QTest::newRow("more parts") << QByteArray("a;;;;;;b !date! c;;; 2024-05-31\r\n") << newer;
-        QTest::newRow("not the last") << QByteArray("!date!;;;2024-05-31;;;") << latest;
-        QTest::newRow("no separator") << QByteArray("!date!2024-05-31") << latest;
-        QTest::newRow("no such day") << QByteArray("!date!;;;2024-06-31") << latest;
-        QTest::newRow("no date") << QByteArray("!date!;;;soon") << latest;
-        QTest::newRow("no marker") << QByteArray("2024-05-31") << unknown;
-        QTest::newRow("other case") << QByteArray("!Date!;;;2024-05-31") << unknown;
-        QTest::newRow("empty") << QByteArray() << unknown;
-        QTest::newRow("zero at the end") << kAnswer + QByteArray("\0;;;2020-01-01", 14) << newer;
-        QTest::newRow("zero at the start") << '\0' + kAnswer << unknown;
-        QTest::newRow("letters of no alphabet") << "\xff\xfe;;;" + kAnswer << newer;
-    }
-
-    void readsAnswers()
-    {
-        QFETCH(QByteArray, bytes);
-        QFETCH(UpdateState, state);
-        const QString text = updateAnswerText(bytes);
-        QCOMPARE(readUpdateAnswer(text, QDate(2024, 5, 30)), state);
-    }
-
-    void asksTheSecondHostOnlyWithoutAnAnswer_data()
-    {
-        QTest::addColumn<QByteArray>("first");
-        QTest::addColumn<QByteArray>("second");
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<int>("timeLimit");
-        const QByteArray good = HttpServer::ok(kAnswer);
-        const QByteArray other = HttpServer::ok("other");
-        const QByteArray silent;
-        const QString none;
-        QTest::newRow("first") << good << other << QString::fromLatin1(kAnswer) << 60000;
-        QTest::newRow("useless, but an answer")
-            << other << good << QStringLiteral("other") << 60000;
-        QTest::newRow("empty") << HttpServer::ok("") << other << QStringLiteral("other") << 60000;
-        QTest::newRow("begins with zero")
-            << HttpServer::ok(QByteArray(3, '\0')) << other << QStringLiteral("other") << 60000;
-        QTest::newRow("failure") << HttpServer::withStatus("503 No", "", "later") << other
-                                 << QStringLiteral("other") << 60000;
-        QTest::newRow("too slow") << silent << other << QStringLiteral("other") << 2000;
-        QTest::newRow("both empty") << HttpServer::ok("") << HttpServer::ok("") << none << 60000;
+        const struct {
+            const char* name;
+            QByteArray bytes;
+            UpdateState state;
+        } rows[] = {{"later", kAnswer, newer},
+                    {"same day", "!date!;;;2024-05-30", latest},
+                    {"earlier", "!date!;;;2023-12-31", latest},
+                    {"more parts", "a;;;;;;b !date! c;;; 2024-05-31\r\n", newer},
+                    {"not the last", "!date!;;;2024-05-31;;;", latest},
+                    {"no separator", "!date!2024-05-31", latest},
+                    {"no such day", "!date!;;;2024-06-31", latest},
+                    {"no date", "!date!;;;soon", latest},
+                    {"no marker", "2024-05-31", unknown},
+                    {"other case", "!Date!;;;2024-05-31", unknown},
+                    {"empty", "", unknown},
+                    {"zero at the end", kAnswer + QByteArray("\0;;;2020-01-01", 14), newer},
+                    {"zero at the start", '\0' + kAnswer, unknown},
+                    {"letters of no alphabet", "\xff\xfe;;;" + kAnswer, newer}};
+        for (const auto& row : rows) {
+            const QString text = updateAnswerText(row.bytes);
+            QVERIFY2(readUpdateAnswer(text, QDate(2024, 5, 30)) == row.state, row.name);
+        }
     }
 
     void asksTheSecondHostOnlyWithoutAnAnswer()
     {
-        QFETCH(QByteArray, first);
-        QFETCH(QByteArray, second);
-        QFETCH(QString, answer);
-        QFETCH(int, timeLimit);
-        HttpServer firstServer(first);
-        HttpServer secondServer(second);
-        const UpdateService service{{firstServer.host(), secondServer.host()}, timeLimit};
-        QCOMPARE(fetchUpdateAnswer(service), std::optional<QString>(answer));
-        const bool isFirstEnough = first.endsWith(answer.toLatin1()) && !answer.isEmpty();
-        QCOMPARE(firstServer.requests().count(), 1);
-        QCOMPARE(secondServer.requests().count(), isFirstEnough ? 0 : 1);
-        QVERIFY(firstServer.requests().first().startsWith(
-            "GET /apps/appscontrol/updaterequest.php?appname=tessarin HTTP/1.1\r\n"));
+        const QByteArray good = HttpServer::ok(kAnswer);
+        const QByteArray other = HttpServer::ok("other");
+        const QByteArray empty = HttpServer::ok("");
+        const QByteArray zero = HttpServer::ok(QByteArray(3, '\0'));
+        const QByteArray failure = HttpServer::withStatus("503 No", "", "later");
+        const QByteArray silent;
+        const struct {
+            const char* name;
+            QByteArray first;
+            QByteArray second;
+            QByteArray answer;
+            bool isFirstEnough;
+            int timeLimit = 60000;
+        } rows[] = {{"first", good, other, kAnswer, true},
+                    {"useless, but an answer", other, good, "other", true},
+                    {"empty", empty, other, "other", false},
+                    {"begins with zero", zero, other, "other", false},
+                    {"failure", failure, other, "other", false},
+                    {"too slow", silent, other, "other", false, 2000},
+                    {"both empty", empty, empty, "", false}};
+        for (const auto& row : rows) {
+            HttpServer first(row.first);
+            HttpServer second(row.second);
+            const auto answer = fetchUpdateAnswer({{first.host(), second.host()}, row.timeLimit});
+            QVERIFY2(answer == QString::fromLatin1(row.answer), row.name);
+            QVERIFY2(first.requests().count() == 1, row.name);
+            QVERIFY2(second.requests().count() == (row.isFirstEnough ? 0 : 1), row.name);
+            QVERIFY(first.requests().first().startsWith(
+                "GET /apps/appscontrol/updaterequest.php?appname=tessarin HTTP/1.1\r\n"));
+        }
     }
 
     void hasNoAnswerWithoutHosts()
@@ -103,16 +94,13 @@ private slots:
         HttpServer offServer(HttpServer::ok("!date!;;;2001-01-01"));
         QProcess on;
         QProcess off;
-        on.start(QCoreApplication::applicationFilePath(),
-                 {QStringLiteral("--start"), onServer.host(), QStringLiteral("true")});
-        off.start(QCoreApplication::applicationFilePath(),
-                  {QStringLiteral("--start"), offServer.host(), QStringLiteral("false")});
-        const auto haveEnded = [&] {
-            return on.state() == QProcess::NotRunning && off.state() == QProcess::NotRunning;
-        };
-        QTRY_VERIFY_WITH_TIMEOUT(haveEnded(), 60000);
-        QCOMPARE(on.exitCode(), 0);
-        QCOMPARE(off.exitCode(), 0);
+        const QString program = QCoreApplication::applicationFilePath();
+        on.start(program, {QStringLiteral("--start"), onServer.host(), QStringLiteral("true")});
+        off.start(program, {QStringLiteral("--start"), offServer.host(), QStringLiteral("false")});
+        for (QProcess* const process : {&on, &off}) {
+            QTRY_COMPARE_WITH_TIMEOUT(process->state(), QProcess::NotRunning, 60000);
+            QCOMPARE(process->exitCode(), 0);
+        }
         QCOMPARE(onServer.requests().count(), 1);
         QCOMPARE(offServer.requests().count(), 0);
     }
@@ -120,10 +108,11 @@ private slots:
     void isDueAfterSixDays()
     {
         const QDate today(2024, 3, 3);
-        const QList<QPair<int, bool>> rows = {{-400, true}, {-6, true}, {-5, false},
-                                              {0, false},   {1, false}, {400, false}};
-        for (const auto& row : rows) {
-            QCOMPARE(UpdateCheck::isDue(today.addDays(row.first), today), row.second);
+        for (const int days : {-400, -6}) {
+            QVERIFY(UpdateCheck::isDue(today.addDays(days), today));
+        }
+        for (const int days : {-5, 0, 1, 400}) {
+            QVERIFY(!UpdateCheck::isDue(today.addDays(days), today));
         }
     }
 };

@@ -1,0 +1,226 @@
+#include "support/ModalDialog.h"
+#include "support/TestMain.h"
+
+#include <memory>
+#include <QLabel>
+#include <QMWidgets/AboutDialog.h>
+#include <QMWidgets/App.h>
+#include <QMWidgets/InputDialog.h>
+#include <QMWidgets/MMessageBox.h>
+#include <QScreen>
+#include <QStyle>
+#include <QTextBrowser>
+
+using namespace QMWidgets;
+
+namespace
+{
+
+const QString kTitle = QStringLiteral("Title");
+const QString kText = QStringLiteral("Something that the user should know");
+
+std::function<void(QDialog*)> pressing(const char* button)
+{
+    return [=](QDialog* dialog) {
+        buttonOf(dialog, QLatin1String(button))->click();
+    };
+}
+
+std::function<void(QDialog*)> striking(Qt::Key key)
+{
+    return [=](QDialog* dialog) {
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog, key);
+    };
+}
+
+QString askForText(QWidget* parent, bool* ok)
+{
+    return InputDialog::getText(parent, kTitle, kText, QLineEdit::Password, QStringLiteral("old"),
+                                ok);
+}
+
+/// The texts of the buttons, from left to right, or from the top down on a small screen.
+QStringList buttonTexts(const QDialog& dialog)
+{
+    const bool isColumn = App::isSmallDesktop(QGuiApplication::primaryScreen()->virtualSize());
+    QMap<int, QString> byPlace;
+    for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
+        byPlace.insert(isColumn ? button->y() : button->x(), button->text());
+    }
+    return byPlace.values();
+}
+
+QImage iconOf(const QDialog* box)
+{
+    for (const QLabel* label : box->findChildren<QLabel*>()) {
+        if (label->text().isEmpty()) {
+            return label->pixmap(Qt::ReturnByValue).toImage();
+        }
+    }
+    return QImage();
+}
+
+} // namespace
+
+class tst_Dialogs : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aboutChangesBetweenLogoAndNoticesInPlace()
+    {
+        AboutDialog dialog(nullptr);
+        dialog.show();
+        const QSize size = dialog.size();
+        const auto* const logo = dialog.findChild<QLabel*>(QStringLiteral("LogoLabel"));
+        const auto* const notices = dialog.findChild<QTextBrowser*>();
+        for (const bool showsLogo : {true, false, true, false}) {
+            QCoreApplication::processEvents();
+            QCOMPARE(logo->isHidden(), !showsLogo);
+            QCOMPARE(notices->isHidden(), showsLogo);
+            QCOMPARE(dialog.size(), size);
+            pressing(showsLogo ? "&Legal Notices" : "&Hide")(&dialog);
+        }
+        pressing("&Legal Notices")(&dialog);
+        QVERIFY(notices->toPlainText().contains(QLatin1String("Qt 5 Framework")));
+        pressing("&Ok")(&dialog);
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(!logo->isHidden());
+    }
+
+    void asksForAText()
+    {
+        const struct {
+            const char* name;
+            std::function<void(QDialog*)> end;
+            bool isOk;
+        } rows[] = {{"Ok", pressing("Ok"), true},
+                    {"Return", striking(Qt::Key_Return), true},
+                    {"Cancel", pressing("Cancel"), false},
+                    {"Escape", striking(Qt::Key_Escape), false}};
+        for (const auto& row : rows) {
+            QPointer<QDialog> last;
+            bool isOk = !row.isOk;
+            const auto act = [&](QDialog* dialog) {
+                last = dialog;
+                QCOMPARE(dialog->windowTitle(), kTitle);
+                QVERIFY(QTest::qWaitForWindowActive(dialog));
+                auto* const edit = qobject_cast<QLineEdit*>(dialog->focusWidget());
+                QVERIFY(edit && edit->echoMode() == QLineEdit::Password);
+                // What stood there is selected, so typing replaces it.
+                QTest::keyClicks(edit, QStringLiteral("new"));
+                row.end(dialog);
+            };
+            const auto text = withModalDialog([&] { return askForText(nullptr, &isOk); }, act);
+            // A cancel tells the text, too.
+            QVERIFY2(text == QLatin1String("new") && isOk == row.isOk && !last, row.name);
+        }
+        // Not every caller wants to know how it ended.
+        withModalDialog([] { return askForText(nullptr, nullptr); }, pressing("Ok"));
+
+        auto parent = std::make_unique<QWidget>();
+        bool isOk = true;
+        const auto text = withModalDialog([&] { return askForText(parent.get(), &isOk); },
+                                          [&parent](QDialog*) { parent.reset(); });
+        QCOMPARE(text, QStringLiteral("old"));
+        QVERIFY(!isOk);
+    }
+
+    void asksForANumberInItsRange()
+    {
+        const struct {
+            int value;
+            int expected;
+        } rows[] = {{-7, 5}, {150, 150}, {5000, 200}};
+        for (const auto& row : rows) {
+            bool isOk = false;
+            const auto ask = [&] {
+                return InputDialog::getInteger(nullptr, kTitle, kText, row.value, 5, 200, 10,
+                                               &isOk);
+            };
+            QCOMPARE(withModalDialog(ask, pressing("Ok")), row.expected);
+            QVERIFY(isOk);
+            const auto typeAndCancel = [](QDialog* dialog) {
+                QTest::keyClicks(dialog->focusWidget(), QStringLiteral("42"));
+                pressing("Cancel")(dialog);
+            };
+            QCOMPARE(withModalDialog(ask, typeAndCancel), 42);
+            QVERIFY(!isOk);
+        }
+    }
+
+    void messageButtonsStandInTheirOwnOrder()
+    {
+        const struct {
+            const char* text;
+            int result;
+        } rows[] = {{"Ok", 0x400},        {"Cancel", 0x400000}, {"No", 0x10000},
+                    {"Yes", 0x4000},      {"Abort", 0x40000},   {"Retry", 0x80000},
+                    {"Ignore", 0x100000}, {"YesAll", 0x8000},   {"NoAll", 0x20000}};
+        QMessageBox::StandardButtons all = QMessageBox::Help; // not among them
+        QStringList texts;
+        for (const auto& row : rows) {
+            all |= QMessageBox::StandardButton(row.result);
+            texts += QLatin1String(row.text);
+        }
+        MMessageBox box(4, kTitle, kText, all, nullptr);
+        box.show();
+        QCOMPARE(buttonTexts(box), texts);
+        for (const auto& row : rows) {
+            pressing(row.text)(&box);
+            QVERIFY2(box.result() == row.result, row.text);
+        }
+    }
+
+    void messagesShowTheirIconAndAnswer()
+    {
+        const struct {
+            const char* name;
+            decltype(&MMessageBox::warning) ask;
+            QStyle::StandardPixmap icon;
+        } rows[] = {{"information", &MMessageBox::information, QStyle::SP_MessageBoxInformation},
+                    {"warning", &MMessageBox::warning, QStyle::SP_MessageBoxWarning},
+                    {"critical", &MMessageBox::critical, QStyle::SP_MessageBoxCritical},
+                    {"question", &MMessageBox::question, QStyle::SP_MessageBoxQuestion}};
+        for (const auto& row : rows) {
+            QWidget parent;
+            const auto ask = [&] {
+                return row.ask(&parent, kTitle, kText, QMessageBox::Yes | QMessageBox::No, 0);
+            };
+            QImage shown;
+            const auto look = [&shown](QDialog* box) {
+                QCOMPARE(box->windowTitle(), kTitle);
+                shown = iconOf(box);
+                pressing("Yes")(box);
+            };
+            QCOMPARE(withModalDialog(ask, look), 0x4000);
+            const QImage icon = QApplication::style()->standardPixmap(row.icon).toImage();
+            QVERIFY2(!icon.isNull() && shown == icon, row.name);
+            QVERIFY2(parent.findChild<MMessageBox*>(), "the box stays with its parent");
+            // Deliberate: of the two, Enter presses No.
+            QCOMPARE(withModalDialog(ask, striking(Qt::Key_Return)), 0x10000);
+        }
+    }
+
+    void anyOtherEndOfAMessageGivesZero()
+    {
+        QPointer<QDialog> last;
+        const auto ask = [] {
+            return MMessageBox::warning(nullptr, kTitle, kText, QMessageBox::NoButton);
+        };
+        const auto escape = [&last](QDialog* box) {
+            last = box;
+            QVERIFY(box->findChildren<QPushButton*>().isEmpty());
+            striking(Qt::Key_Return)(box);
+            QVERIFY(box->isVisible());
+            striking(Qt::Key_Escape)(box);
+        };
+        QCOMPARE(withModalDialog(ask, escape), 0);
+        QVERIFY(!last);
+        QCOMPARE(withModalDialog(ask, [](QDialog* box) { box->close(); }), 0);
+    }
+};
+
+TESSARIN_TEST(tst_Dialogs);
+#include "tst_Dialogs.moc"

@@ -35,6 +35,9 @@ private slots:
         bool isVisibleMeanwhile = false;
         bool takesMore = true;
         connect(&widget, &DropWidget::dropped, this, [&](const QList<QUrl>& urls) {
+            if (!received.isEmpty()) {
+                return; // a second list would bring a third
+            }
             received = urls;
             isVisibleMeanwhile = widget.isVisible();
             takesMore = dropUrls(&widget, {}) || widget.findChild<QPushButton*>()->isEnabled();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QPointF>
 #include <QString>
 #include <QWidget>
@@ -14,6 +15,13 @@ Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, con
 Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
                                     Qt::KeyboardModifiers modifiers, const QString& text,
                                     bool autorepeat, ushort count);
+
+/// Sends an event without contents, as one that tells that the mouse came or left.
+inline void sendEvent(QWidget* widget, QEvent::Type type)
+{
+    QEvent event(type);
+    QCoreApplication::sendEvent(widget, &event);
+}
 
 /// Puts a mouse event for a place on a widget into the window system's queue.
 inline void postMouse(const QWidget* widget, const QPoint& place, QEvent::Type type)

@@ -46,10 +46,9 @@ private slots:
         for (const auto format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
             for (const auto alpha : {RandomAlpha::Opaque, RandomAlpha::Any}) {
                 const QImage image = randomImage(size, format, alpha, 5);
-                for (const QColor& color : {QColor(250, 128, 0, 7), QColor()}) {
-                    const QImage expected = reference::vignette(image, radius, opacity, color);
-                    COMPARE_IMAGES(MGraphX::vignetteImage(image, radius, opacity, color), expected);
-                }
+                const QColor color = alpha == RandomAlpha::Any ? QColor(250, 128, 0, 7) : QColor();
+                COMPARE_IMAGES(MGraphX::vignetteImage(image, radius, opacity, color),
+                               reference::vignette(image, radius, opacity, color));
             }
         }
     }

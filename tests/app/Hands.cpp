@@ -41,7 +41,27 @@ enum BatchPlan { LetItRun, StopIt, CloseIt, PauseIt, ResumeIt };
 } // namespace
 
 Hands::Hands(Program& program, const QList<QUrl>& photos, quint32 seed, int actions)
-    : m_program(program),
+    : m_actions{
+          {14, "add", [this] { addNode(); }},
+          {10, "remove", [this] { press("PushButtonRemove"); }},
+          {6, "click a tab", [this] { dragTab(0); }},
+          {10, "drag a tab", [this] { dragTab(1 + upTo(8)); }},
+          {4, "step along the tabs", [this] { stepAlongTabs(); }},
+          {5, "flows", [this] { chooseFavorite(0, kCommandsOfFavorites); }},
+          {5, "load", [this] { chooseFavorite(kCommandsOfFavorites, -1); }},
+          {20, "slider", [this] { moveSlider(); }},
+          {15, "control", [this] { setControl(); }},
+          {8, "step", [this] { step(); }},
+          {3, "strip or square", [this] { press("IconViewButton"); }},
+          {3, "strip", [this] { clickStrip(); }},
+          {4, "drop", [this] { dropPhotos(); }},
+          {5, "bubble", [this] { showBubble(); }},
+          {3, "large view", [this] { press("PreviewButton"); }},
+          {1, "batch", [this] { runBatch(); }},
+          {1, "settings", [this] { press("SettingsButton"); }},
+          {1, "open photos", [this] { square()->slotOpenClicked(); }},
+      },
+      m_program(program),
       m_options(program.page->findChild<NodesOptionsPanel*>()),
       m_bar(program.page->findChild<NodesTabBar*>()),
       m_photos(photos),
@@ -91,37 +111,22 @@ void Hands::takeTurn(QDialog* dialog)
 
 void Hands::act()
 {
-    static const Action actions[] = {
-        {14, "add", &Hands::addNode},
-        {10, "remove", &Hands::removeNode},
-        {6, "click a tab", &Hands::clickTab},
-        {10, "drag a tab", &Hands::dragTab},
-        {4, "step along the tabs", &Hands::stepAlongTabs},
-        {5, "flows", &Hands::favorites},
-        {5, "load", &Hands::loadFavorite},
-        {20, "slider", &Hands::moveSlider},
-        {15, "control", &Hands::setControl},
-        {8, "step", &Hands::step},
-        {3, "strip or square", &Hands::switchStrip},
-        {3, "strip", &Hands::clickStrip},
-        {4, "drop", &Hands::dropPhotos},
-        {5, "bubble", &Hands::showBubble},
-        {3, "large view", &Hands::openLargeView},
-        {1, "batch", &Hands::runBatch},
-        {1, "settings", &Hands::openSettings},
-        {1, "open photos", &Hands::openPhotos},
-    };
     int all = 0;
-    for (const Action& action : actions) {
+    for (const Action& action : m_actions) {
         all += action.weight;
     }
     int place = upTo(all);
-    const Action* action = actions;
+    const Action* action = m_actions.begin();
     for (; place >= action->weight; ++action) {
         place -= action->weight;
     }
     note(QLatin1String(action->name));
-    (this->*action->act)();
+    action->act();
+}
+
+CreatorDropArea* Hands::square() const
+{
+    return m_program.page->findChild<CreatorDropArea*>();
 }
 
 void Hands::note(const QString& action)
@@ -154,23 +159,20 @@ QString Hands::whatIsBroken() const
             .arg(flow.size())
             .arg(stack->count() - 1);
     }
-    QSet<const QWidget*> nodes;
-    QSet<const QWidget*> labels;
+    QSet<const QWidget*> owners;
     for (int i = 0; i < flow.size(); ++i) {
-        const BaseNode* const node = flow.value(i);
-        const QWidget* const label = m_bar->tabButton(i, QTabBar::LeftSide);
-        if (!node || node->name() != m_bar->tabText(i) ||
-            stack->indexOf(const_cast<BaseNode*>(node)) < 1) {
+        BaseNode* const node = flow.value(i);
+        QWidget* const label = m_bar->tabButton(i, QTabBar::LeftSide);
+        if (!node || node->name() != m_bar->tabText(i) || stack->indexOf(node) < 1) {
             return QStringLiteral("tab %1 has no node, another one's, or one without a page")
                 .arg(i);
         }
-        if (!qobject_cast<const TabLabel*>(label)) {
+        if (!qobject_cast<TabLabel*>(label)) {
             return QStringLiteral("tab %1 has no label").arg(i);
         }
-        nodes += node;
-        labels += label;
+        owners << node << label;
     }
-    if (nodes.size() != flow.size() || labels.size() != flow.size()) {
+    if (owners.size() != 2 * flow.size()) {
         return QStringLiteral("tabs share a node or a label");
     }
     const QWidget* const page = flow.value(m_bar->currentIndex());
@@ -193,6 +195,11 @@ void Hands::press(QAbstractButton* button)
     }
 }
 
+void Hands::press(const char* name)
+{
+    press(m_program.button(name));
+}
+
 void Hands::choose(QMenu* menu, int first, int count)
 {
     QAction* const action = oneOf(menu->actions().mid(first, count));
@@ -204,26 +211,15 @@ void Hands::choose(QMenu* menu, int first, int count)
 
 void Hands::addNode()
 {
-    m_bar->count() < kMostNodes ? choose(m_program.addMenu(), 0, -1) : removeNode();
+    m_bar->count() < kMostNodes ? choose(m_program.addMenu(), 0, -1) : press("PushButtonRemove");
 }
 
-void Hands::removeNode()
+void Hands::chooseFavorite(int first, int count)
 {
-    press(m_program.button("PushButtonRemove"));
+    choose(m_program.page->findChild<QMenu*>(QStringLiteral("FavoritesMenu")), first, count);
 }
 
-void Hands::clickTab()
-{
-    if (!m_isDragging && m_bar->count() > 0) {
-        const QPoint place = m_bar->tabRect(upTo(m_bar->count())).center();
-        m_isDragging = true;
-        QTest::mousePress(m_bar, Qt::LeftButton, Qt::NoModifier, place);
-        m_isDragging = false;
-        QTest::mouseRelease(m_bar, Qt::LeftButton, Qt::NoModifier, place);
-    }
-}
-
-void Hands::dragTab()
+void Hands::dragTab(int moves)
 {
     if (m_isDragging || m_bar->count() == 0) {
         return;
@@ -232,7 +228,7 @@ void Hands::dragTab()
     m_isDragging = true;
     QTest::mousePress(m_bar, Qt::LeftButton, Qt::NoModifier, place);
     const int stride = upTo(2) == 0 ? 60 : -60;
-    for (int moves = 1 + upTo(8); moves > 0; --moves) {
+    for (; moves > 0; --moves) {
         place += QPoint(stride, 0);
         QMouseEvent move(QEvent::MouseMove, place, m_bar->mapToGlobal(place), Qt::NoButton,
                          Qt::LeftButton, Qt::NoModifier);
@@ -253,18 +249,6 @@ void Hands::stepAlongTabs()
     QWheelEvent wheel(place, m_bar->mapToGlobal(place), QPoint(), QPoint(0, by * 120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(m_bar, &wheel);
-}
-
-void Hands::favorites()
-{
-    choose(m_program.page->findChild<QMenu*>(QStringLiteral("FavoritesMenu")), 0,
-           kCommandsOfFavorites);
-}
-
-void Hands::loadFavorite()
-{
-    choose(m_program.page->findChild<QMenu*>(QStringLiteral("FavoritesMenu")), kCommandsOfFavorites,
-           -1);
 }
 
 void Hands::moveSlider()
@@ -298,15 +282,9 @@ void Hands::setControl()
 void Hands::step()
 {
     // The result's own buttons show while the mouse is over it: a click needs no mouse.
-    const QWidget* const panels[] = {m_program.page->findChild<ImagePreview*>(),
-                                     m_program.page->findChild<CreatorDropArea*>()};
+    const QWidget* const panels[] = {m_program.page->findChild<ImagePreview*>(), square()};
     const auto name = QLatin1String(upTo(2) == 0 ? "NextImageButton" : "PreviousImageButton");
     panels[upTo(2)]->findChild<QPushButton*>(name)->click();
-}
-
-void Hands::switchStrip()
-{
-    press(m_program.button("IconViewButton"));
 }
 
 void Hands::clickStrip()
@@ -323,9 +301,8 @@ void Hands::dropPhotos()
     for (int count = upTo(4); count > 0; --count) {
         some += oneOf(m_photos);
     }
-    auto* const square = m_program.page->findChild<CreatorDropArea*>();
-    if (square->isVisible()) {
-        dropUrls(square, some);
+    if (square()->isVisible()) {
+        dropUrls(square(), some);
     }
 }
 
@@ -337,25 +314,10 @@ void Hands::showBubble()
     }
 }
 
-void Hands::openLargeView()
-{
-    press(m_program.button("PreviewButton"));
-}
-
 void Hands::runBatch()
 {
     m_batchPlan = upTo(4);
-    press(m_program.button("RunBatchButton"));
-}
-
-void Hands::openSettings()
-{
-    press(m_program.button("SettingsButton"));
-}
-
-void Hands::openPhotos()
-{
-    m_program.page->findChild<CreatorDropArea*>()->slotOpenClicked();
+    press("RunBatchButton");
 }
 
 void Hands::answer(QDialog* dialog)

@@ -1,12 +1,15 @@
 #pragma once
 
+#include <functional>
 #include <QList>
 #include <QObject>
 #include <QStringList>
 #include <QUrl>
+#include <QVector>
 #include <random>
 
 class BatchDialog;
+class CreatorDropArea;
 class NodesOptionsPanel;
 class NodesTabBar;
 class Program;
@@ -36,7 +39,7 @@ private:
     struct Action {
         int weight;
         const char* name;
-        void (Hands::*act)();
+        std::function<void()> act;
     };
 
     int upTo(int end) { return int(m_random() % quint32(end)); }
@@ -50,30 +53,26 @@ private:
     void check();
     QString whatIsBroken() const;
 
+    CreatorDropArea* square() const;
     void press(QAbstractButton* button);
+    void press(const char* name);
     void choose(QMenu* menu, int first, int count);
     void addNode();
-    void removeNode();
-    void clickTab();
-    void dragTab();
+    void chooseFavorite(int first, int count);
+    void dragTab(int moves);
     void stepAlongTabs();
-    void favorites();
-    void loadFavorite();
     void moveSlider();
     void setControl();
     void step();
-    void switchStrip();
     void clickStrip();
     void dropPhotos();
     void showBubble();
-    void openLargeView();
     void runBatch();
-    void openSettings();
-    void openPhotos();
 
     void answer(QDialog* dialog);
     void answerBatch(BatchDialog* dialog);
 
+    const QVector<Action> m_actions;
     Program& m_program;
     NodesOptionsPanel* m_options;
     NodesTabBar* m_bar;

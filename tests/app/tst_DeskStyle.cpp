@@ -58,36 +58,44 @@ private slots:
     void initTestCase() { setUpApplication(*QMWidgets::App::app()); }
     void cleanupTestCase() { qApp->setStyleSheet(QString()); }
 
-    void showsWhereTheKeyboardIs_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const QString& name : SheetRules(applicationStyleSheet()).objectNames()) {
-            if (name.contains(QLatin1String("Button"))) {
-                QTest::newRow(qPrintable(name)) << name;
-            }
-        }
-        for (const char* const kind : {"QSlider", "QSpinBox", "QComboBox", "QListWidget", "QTabBar",
-                                       "QCheckBox", "QLineEdit"}) {
-            QTest::newRow(kind) << QString();
-        }
-    }
     void showsWhereTheKeyboardIs()
     {
-        QFETCH(QString, name);
         QWidget window;
         window.resize(300, 300);
-        QWidget* const widget =
-            makeFocusable(QLatin1String(QTest::currentDataTag()), name, &window);
         auto* const other = new QLineEdit(&window);
         other->setGeometry(0, 250, 100, 30);
+        auto* const tabs = new QTabBar(&window);
+        tabs->addTab(QStringLiteral("Tab"));
+        QWidgetList widgets = {tabs,
+                               new QSlider(Qt::Horizontal, &window),
+                               new QSpinBox(&window),
+                               new QComboBox(&window),
+                               new QListWidget(&window),
+                               new QCheckBox(QStringLiteral("Check"), &window),
+                               new QLineEdit(&window)};
+        for (const QString& name : SheetRules(applicationStyleSheet()).objectNames()) {
+            if (name.contains(QLatin1String("Button"))) {
+                auto* const button = new QPushButton(&window);
+                button->setObjectName(name);
+                button->setFlat(true);
+                widgets += button;
+            }
+        }
         window.show();
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        other->setFocus();
-        const int before = countPixels(imageOf(widget), kAccent);
-        widget->setFocus(Qt::TabFocusReason);
-        QVERIFY(widget->hasFocus());
-        // A ring, so at least its straight parts.
-        QVERIFY(countPixels(imageOf(widget), kAccent) >= before + 20);
+        for (QWidget* widget : qAsConst(widgets)) {
+            widget->setFocusPolicy(Qt::StrongFocus);
+            widget->ensurePolished();
+            widget->resize(widget->sizeHint().expandedTo(QSize(24, 18)));
+            other->setFocus();
+            const int before = countPixels(imageOf(widget), kAccent);
+            widget->setFocus(Qt::TabFocusReason);
+            QVERIFY(widget->hasFocus());
+            // A ring, so at least its straight parts.
+            QVERIFY2(countPixels(imageOf(widget), kAccent) >= before + 20,
+                     qPrintable(QLatin1String(widget->metaObject()->className()) +
+                                widget->objectName()));
+        }
     }
 
     void slidersKeepTheirTicks()
@@ -164,38 +172,6 @@ private slots:
         menu.resize(menu.sizeHint());
         QCOMPARE(menu.grab().toImage().pixelColor(0, 0).alpha(), 0);
         QCOMPARE(menu.grab().toImage().pixelColor(menu.rect().center()).alpha(), 255);
-    }
-
-private:
-    QWidget* makeFocusable(const QString& kind, const QString& name, QWidget* parent)
-    {
-        QWidget* widget = nullptr;
-        if (kind == QLatin1String("QSlider")) {
-            widget = new QSlider(Qt::Horizontal, parent);
-        } else if (kind == QLatin1String("QSpinBox")) {
-            widget = new QSpinBox(parent);
-        } else if (kind == QLatin1String("QComboBox")) {
-            widget = new QComboBox(parent);
-        } else if (kind == QLatin1String("QListWidget")) {
-            widget = new QListWidget(parent);
-        } else if (kind == QLatin1String("QTabBar")) {
-            auto* const bar = new QTabBar(parent);
-            bar->addTab(QStringLiteral("Tab"));
-            widget = bar;
-        } else if (kind == QLatin1String("QCheckBox")) {
-            widget = new QCheckBox(QStringLiteral("Check"), parent);
-        } else if (kind == QLatin1String("QLineEdit")) {
-            widget = new QLineEdit(parent);
-        } else {
-            auto* const button = new QPushButton(parent);
-            button->setObjectName(name);
-            button->setFlat(true);
-            widget = button;
-        }
-        widget->setFocusPolicy(Qt::StrongFocus);
-        widget->ensurePolished();
-        widget->resize(widget->sizeHint().expandedTo(QSize(24, 18)));
-        return widget;
     }
 };
 

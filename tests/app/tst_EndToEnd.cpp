@@ -11,7 +11,6 @@
 #include "support/TestMain.h"
 #include "support/UrlCatcher.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QGroupBox>
 
@@ -42,11 +41,10 @@ QDir saveResults(Program& program)
     return urls.size() == 1 ? QDir(urls.first().toLocalFile()) : QDir(QStringLiteral("missing"));
 }
 
-QByteArray checksum(const QUrl& url)
+QByteArray contentOf(const QUrl& url)
 {
     QFile file(url.toLocalFile());
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result() : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void set(const char* key, const QVariant& value)
@@ -68,9 +66,9 @@ private slots:
                                   photos.add(QStringLiteral("tall.bmp"), QSize(301, 901), 2),
                                   photos.addFile(QStringLiteral("broken.png"), "no picture"),
                                   photos.add(QStringLiteral("dot.png"), QSize(1, 1), 3)};
-        QList<QByteArray> checksums;
+        QList<QByteArray> contents;
         for (const QUrl& url : urls) {
-            checksums += checksum(url);
+            contents += contentOf(url);
         }
 
         Program program;
@@ -107,12 +105,9 @@ private slots:
         const QDir results = saveResults(program);
         QCOMPARE(results.entryList(QDir::Files, QDir::Name),
                  QStringList({"dot.png", "tall.png", "wide.png"}));
-        for (const char* name : {"wide", "tall", "dot"}) {
-            const int index =
-                urls.indexOf(*std::find_if(urls.begin(), urls.end(), [name](const QUrl& url) {
-                    return url.fileName().startsWith(QLatin1String(name));
-                }));
-            const QImage saved(results.filePath(QLatin1String(name) + QStringLiteral(".png")));
+        for (const int index : {0, 1, 3}) {
+            const QString name = QFileInfo(urls.at(index).fileName()).completeBaseName();
+            const QImage saved(results.filePath(name + QStringLiteral(".png")));
             QCOMPARE(saved.convertToFormat(QImage::Format_ARGB32), expected(urls.at(index)));
         }
 
@@ -123,7 +118,7 @@ private slots:
         QCOMPARE(renamed.entryList({QStringLiteral("*.bmp")}, QDir::Files, QDir::Name),
                  QStringList({"NewName1.bmp", "NewName3.bmp", "NewName7.bmp"}));
         for (int i = 0; i < urls.size(); ++i) {
-            QCOMPARE(checksum(urls.at(i)), checksums.at(i));
+            QCOMPARE(contentOf(urls.at(i)), contents.at(i));
         }
     }
 };

@@ -68,25 +68,15 @@ QList<QUrl> photosOfAllKinds(Photos& photos)
     QImage printed = noise(QSize(41, 33), 1, QImage::Format_RGB32, true);
     printed.setDotsPerMeterX(11811);
     printed.setDotsPerMeterY(11811);
-    const struct {
-        const char* name;
-        QImage image;
-    } kinds[] = {
-        {"opaque.jpeg", printed},
-        {"alpha.png", noise(QSize(60, 40), 2)},
-        {"palette@2x.png", noise(QSize(37, 51), 3).convertToFormat(QImage::Format_Indexed8)},
-        {"gray.bmp", noise(QSize(50, 20), 4).convertToFormat(QImage::Format_Grayscale8)},
-        {"deep.png", noise(QSize(23, 45), 5).convertToFormat(QImage::Format_RGBA64)},
-        {"dot.png", noise(QSize(1, 1), 6)}};
-    QList<QUrl> urls;
-    for (const auto& kind : kinds) {
-        const QString file = photos.path(QLatin1String(kind.name));
-        if (!kind.image.save(file)) {
-            qFatal("Can't write the test photo %s", kind.name);
-        }
-        urls += QUrl::fromLocalFile(file);
-    }
-    return urls;
+    const QImage picture = noise(QSize(37, 51), 3);
+    return {
+        photos.add(QStringLiteral("opaque.jpeg"), printed),
+        photos.add(QStringLiteral("alpha.png"), noise(QSize(60, 40), 2)),
+        photos.add(QStringLiteral("palette@2x.png"),
+                   picture.convertToFormat(QImage::Format_Indexed8)),
+        photos.add(QStringLiteral("gray.bmp"), picture.convertToFormat(QImage::Format_Grayscale8)),
+        photos.add(QStringLiteral("deep.png"), picture.convertToFormat(QImage::Format_RGBA64)),
+        photos.add(QStringLiteral("dot.png"), noise(QSize(1, 1), 6))};
 }
 
 /// What the batch makes of a photo, before it goes to a file.

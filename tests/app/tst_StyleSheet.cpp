@@ -24,52 +24,40 @@ void collectWarning(QtMsgType type, const QMessageLogContext&, const QString& te
     }
 }
 
-struct OtherPicture {
-    const char* pattern;
+/// The pictures that the sheet doesn't size.
+const struct OtherPictures {
     QSize size;
     bool hasTwin;
+    const char* patterns;
+} kOtherPictures[] = {
+    // Laid out pixel for pixel, so the toolkit is to find a twin for dense screens.
+    {{64, 64}, true, "Icon_???.png"},
+    {{8, 8}, true, "panelbackground.png"},
+    {{72, 24}, true, "pix/corvanelogo.png"},
+    {{48, 48}, true, "message_*.png"},
+    {{128, 128}, true, "update_available.png update_not_available.png"},
+    // Scaled by what shows them.
+    {{720, 720}, false, "DisabledNode.png droparea.png"},
+    {{1470, 350}, false, "initlabel_en.png"},
+    {{1200, 600}, false, "corvane.png"},
+    {{200, 200}, false, "arrow.gif"},
+    {{192, 192}, false, "loading_image.gif"},
+    // Icons of buttons and menus.
+    {{48, 48},
+     false,
+     "openfiles.png appicon.png moreappsicon.png feedback.png webpage.png star.png new.png "
+     "save.png delete.png GotoIcon.png"},
+    // The maker's other products.
+    {{64, 64},
+     false,
+     "ledgerline.png dovecrate.png pinfolder.png quillbox.png hourspan.png chordlamp.png "
+     "tonewright.png reelspan.png framewick.png byteloom.png bracewright.png"},
 };
 
-/// The pictures that the sheet doesn't size.
-const OtherPicture kOtherPictures[] = {
-    // Laid out pixel for pixel, so the toolkit is to find a twin for dense screens.
-    {"Icon_???.png", {64, 64}, true},
-    {"panelbackground.png", {8, 8}, true},
-    {"pix/corvanelogo.png", {72, 24}, true},
-    {"message_*.png", {48, 48}, true},
-    {"update_available.png", {128, 128}, true},
-    {"update_not_available.png", {128, 128}, true},
-    // Scaled by what shows them.
-    {"DisabledNode.png", {720, 720}, false},
-    {"droparea.png", {720, 720}, false},
-    {"initlabel_en.png", {1470, 350}, false},
-    {"corvane.png", {1200, 600}, false},
-    {"arrow.gif", {200, 200}, false},
-    {"loading_image.gif", {192, 192}, false},
-    // Icons of buttons and menus.
-    {"openfiles.png", {48, 48}, false},
-    {"appicon.png", {48, 48}, false},
-    {"moreappsicon.png", {48, 48}, false},
-    {"feedback.png", {48, 48}, false},
-    {"webpage.png", {48, 48}, false},
-    {"star.png", {48, 48}, false},
-    {"new.png", {48, 48}, false},
-    {"save.png", {48, 48}, false},
-    {"delete.png", {48, 48}, false},
-    {"GotoIcon.png", {48, 48}, false},
-    // The maker's other products.
-    {"ledgerline.png", {64, 64}, false},
-    {"dovecrate.png", {64, 64}, false},
-    {"pinfolder.png", {64, 64}, false},
-    {"quillbox.png", {64, 64}, false},
-    {"hourspan.png", {64, 64}, false},
-    {"chordlamp.png", {64, 64}, false},
-    {"tonewright.png", {64, 64}, false},
-    {"reelspan.png", {64, 64}, false},
-    {"framewick.png", {64, 64}, false},
-    {"byteloom.png", {64, 64}, false},
-    {"bracewright.png", {64, 64}, false},
-};
+QStringList patternsOf(const OtherPictures& pictures)
+{
+    return QString::fromLatin1(pictures.patterns).split(QLatin1Char(' '));
+}
 
 double luminance(const QColor& color)
 {
@@ -157,32 +145,22 @@ private slots:
         QCOMPARE(s_messages.join(QLatin1Char('\n')), QString());
     }
 
-    void selectsOnNamesThatExist()
+    void namesAndFlatButtonsKnowEachOther()
     {
         AllWindows windows;
+        const QStringList known = m_rules.objectNames();
         QSet<QString> names;
         for (const QWidget* widget : QApplication::allWidgets()) {
             names.insert(widget->objectName());
-        }
-        for (const QString& name : m_rules.objectNames()) {
-            QVERIFY2(names.contains(name), qPrintable(name));
-        }
-    }
-
-    void knowsEveryFlatButtonWithAName()
-    {
-        // A flat button that the sheet doesn't draw is not seen at all.
-        AllWindows windows;
-        const QStringList known = m_rules.objectNames();
-        int count = 0;
-        for (QWidget* widget : QApplication::allWidgets()) {
-            const auto* const button = qobject_cast<QPushButton*>(widget);
+            const auto* const button = qobject_cast<const QPushButton*>(widget);
+            // A flat button that the sheet doesn't draw is not seen at all.
             if (button && button->isFlat() && button->icon().isNull()) {
                 QVERIFY2(known.contains(button->objectName()), qPrintable(button->objectName()));
-                ++count;
             }
         }
-        QVERIFY(count > 20);
+        for (const QString& name : known) {
+            QVERIFY2(names.contains(name), qPrintable(name));
+        }
     }
 
     void showsItsPicturesAtHalfTheirSize()
@@ -202,31 +180,23 @@ private slots:
         }
     }
 
-    void otherPicturesAreAsLargeAsTheirRoadNeeds_data()
-    {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<bool>("hasTwin");
-
-        for (const OtherPicture& other : kOtherPictures) {
-            QTest::newRow(other.pattern)
-                << QString::fromLatin1(other.pattern) << other.size << other.hasTwin;
-        }
-    }
     void otherPicturesAreAsLargeAsTheirRoadNeeds()
     {
-        QFETCH(QString, pattern);
-        QFETCH(QSize, size);
-        QFETCH(bool, hasTwin);
-        QDir folder(QLatin1String(":/") + QFileInfo(pattern).path());
-        const QStringList names = folder.entryList({QFileInfo(pattern).fileName()})
-                                      .filter(QRegularExpression(QStringLiteral("^[^@]*$")));
-        QVERIFY(!names.isEmpty());
-        for (const QString& name : names) {
-            QCOMPARE(QImage(folder.filePath(name)).size(), size);
-            QString twin = folder.filePath(name);
-            twin.insert(twin.lastIndexOf(QLatin1Char('.')), QStringLiteral("@2x"));
-            QCOMPARE(QImage(twin).size(), hasTwin ? 2 * size : QSize(0, 0));
+        static const QRegularExpression withoutTwins(QStringLiteral("^[^@]*$"));
+        for (const OtherPictures& pictures : kOtherPictures) {
+            for (const QString& pattern : patternsOf(pictures)) {
+                const QDir folder(QLatin1String(":/") + QFileInfo(pattern).path());
+                const QStringList names =
+                    folder.entryList({QFileInfo(pattern).fileName()}).filter(withoutTwins);
+                QVERIFY2(!names.isEmpty(), qPrintable(pattern));
+                for (const QString& name : names) {
+                    QString twin = folder.filePath(name);
+                    QVERIFY2(QImage(twin).size() == pictures.size, qPrintable(name));
+                    twin.insert(twin.lastIndexOf(QLatin1Char('.')), QStringLiteral("@2x"));
+                    const QSize expected = pictures.hasTwin ? 2 * pictures.size : QSize(0, 0);
+                    QVERIFY2(QImage(twin).size() == expected, qPrintable(twin));
+                }
+            }
         }
     }
 
@@ -238,8 +208,8 @@ private slots:
                 used += SheetRules::pictures(value);
             }
         }
-        for (const OtherPicture& other : kOtherPictures) {
-            used += QDir(QStringLiteral(":/")).entryList({QLatin1String(other.pattern)});
+        for (const OtherPictures& pictures : kOtherPictures) {
+            used += QDir(QStringLiteral(":/")).entryList(patternsOf(pictures));
         }
         const QStringList all = QDir(QStringLiteral(":/"))
                                     .entryList({QStringLiteral("*.png"), QStringLiteral("*.gif")});
@@ -249,84 +219,46 @@ private slots:
         }
     }
 
-    void textStandsOutFromItsGround_data()
-    {
-        QTest::addColumn<QString>("selector");
-        QTest::addColumn<QString>("textOf");
-
-        const auto add = [](const char* selector, const char* textOf = nullptr) {
-            QTest::newRow(selector)
-                << QString::fromLatin1(selector) << QString::fromLatin1(textOf ? textOf : selector);
-        };
-        for (const char* const selector : {"QToolTip",
-                                           "QMenu",
-                                           "QComboBox",
-                                           "QComboBox::item",
-                                           "QComboBox QAbstractItemView",
-                                           "QLineEdit",
-                                           "QSpinBox",
-                                           "QHeaderView::section",
-                                           "QToolButton",
-                                           "QListWidget",
-                                           "QListView::item:selected:active",
-                                           "QListView::item:selected:!active",
-                                           "QTextBrowser",
-                                           "QProgressBar",
-                                           "QTreeView::item:selected",
-                                           "QLabel#DropArea QLabel",
-                                           "QPushButton#PushButton",
-                                           "QPushButton#PushButton:hover",
-                                           "QPushButton#PushButton:pressed",
-                                           "QPushButton#PushButtonAdd:hover",
-                                           "QPushButton#PushButtonAdd:pressed",
-                                           "QPushButton#RunBatchButton",
-                                           "QPushButton#RunBatchButton:pressed",
-                                           "QPushButton#DeleteButton",
-                                           "QPushButton#BatchPauseButton:checked",
-                                           "QPushButton#ActualPixelsButton:checked",
-                                           "QPushButton#SysPreviewButton:pressed",
-                                           "QListView#CreatorIconsView::item:selected:active",
-                                           "QListView#CreatorIconsView::item:selected:!active"}) {
-            add(selector);
-        }
-        add("QComboBox::item:selected", "QComboBox::item");
-        add("QMenu::item:selected", "QMenu::item");
-        add("QMenuBar::item:selected", "QMenuBar");
-        add("QProgressBar::chunk", "QProgressBar");
-        add("QListView#CreatorIconsView::item", "QListView#CreatorIconsView");
-        add("QPushButton#RunBatchButton:hover", "QPushButton#RunBatchButton");
-        add("QPushButton#DeleteButton:hover", "QPushButton#DeleteButton");
-        add("QPushButton#DeleteButton:pressed", "QPushButton#DeleteButton");
-        for (const char* const name : {"BatchPauseButton", "BatchStopButton"}) {
-            const QByteArray button = QByteArray("QPushButton#") + name;
-            add(button, button);
-            add(button + ":hover", button);
-            add(button + ":pressed", button);
-        }
-        add("QPushButton#ActualPixelsButton:checked:hover",
-            "QPushButton#ActualPixelsButton:checked");
-        add("QPushButton#HelpSlideButton", "QPushButton#HelpSlideButton");
-        add("QPushButton#HelpSlideButton:hover", "QPushButton#HelpSlideButton");
-    }
     void textStandsOutFromItsGround()
     {
-        QFETCH(QString, selector);
-        QFETCH(QString, textOf);
-        const QVector<QColor> text =
-            SheetRules::colors(m_rules.value(textOf, QStringLiteral("color")));
-        const QVector<QColor> grounds =
-            SheetRules::colors(m_rules.value(selector, QStringLiteral("background")));
-        QCOMPARE(text.size(), 1);
-        QVERIFY(!grounds.isEmpty());
-        for (const QColor& ground : grounds) {
-            const double ratio = contrast(text.first(), onDesk(ground));
-            QVERIFY2(ratio >= 4.5, qPrintable(QStringLiteral("%1 on %2: %3")
-                                                  .arg(text.first().name(), onDesk(ground).name())
-                                                  .arg(ratio)));
+        // What has a ground of its own, but no text on it.
+        const QStringList withoutText = {QStringLiteral("QMenu::separator"),
+                                         QStringLiteral("QLabel#DropArea"),
+                                         QStringLiteral("QListView#CreatorIconsView")};
+        int count = 0;
+        for (const SheetRules::Rule& rule : m_rules.rules()) {
+            const QVector<QColor> text = textColors(rule.selector);
+            if (text.isEmpty() || withoutText.contains(rule.selector)) {
+                continue;
+            }
+            const double least = rule.selector.contains(QLatin1String(":disabled")) ? 3 : 4.5;
+            const QString ground = m_rules.value(rule.selector, QStringLiteral("background"));
+            for (const QColor& color : SheetRules::colors(ground)) {
+                const double ratio = contrast(text.first(), onDesk(color));
+                QVERIFY2(ratio >= least, qPrintable(QStringLiteral("%1: %2 on %3 is %4")
+                                                        .arg(rule.selector, text.first().name(),
+                                                             onDesk(color).name())
+                                                        .arg(ratio)));
+                ++count;
+            }
         }
+        QVERIFY(count > 80);
     }
 
 private:
+    /// Of a selector, or else of what it is a state or a part of.
+    QVector<QColor> textColors(QString selector) const
+    {
+        for (;;) {
+            const QString value = m_rules.value(selector, QStringLiteral("color"));
+            const int colon = selector.lastIndexOf(QLatin1Char(':'));
+            if (!value.isEmpty() || colon < 0) {
+                return SheetRules::colors(value);
+            }
+            selector.truncate(colon);
+        }
+    }
+
     const SheetRules m_rules{applicationStyleSheet()};
 };
 

@@ -15,14 +15,11 @@ using QMWidgets::TranslationsManager;
 namespace
 {
 
-const QString kFolder = QStringLiteral(TESSARIN_TRANSLATIONS_FOLDER);
-
-const QRegularExpression::PatternOptions kUnicode = QRegularExpression::UseUnicodePropertiesOption;
-
 QStringList found(const QString& text, const QString& pattern)
 {
     QStringList matches;
-    auto all = QRegularExpression(pattern, kUnicode).globalMatch(text);
+    const QRegularExpression regular(pattern, QRegularExpression::UseUnicodePropertiesOption);
+    auto all = regular.globalMatch(text);
     while (all.hasNext()) {
         matches += all.next().captured();
     }
@@ -41,8 +38,8 @@ QString lostIn(const QString& source, const QString& translation)
 {
     // Placeholders, tags and line ends may change places but not number.
     for (const char* pattern : {"%\\d", "</?[A-Za-z][^>]*>", "\n", "\""}) {
-        if (found(source, QLatin1String(pattern)) != found(translation, QLatin1String(pattern))) {
-            return QLatin1String(pattern);
+        if (found(source, pattern) != found(translation, pattern)) {
+            return pattern;
         }
     }
     if ((source.startsWith(QLatin1Char(' ')) && !keepsApart(translation.front())) ||
@@ -50,20 +47,11 @@ QString lostIn(const QString& source, const QString& translation)
         return QStringLiteral(" ");
     }
     // A mnemonic stays, and only there.
-    if (found(source, QStringLiteral("&\\w")).size() !=
-        found(translation, QStringLiteral("&\\w")).size()) {
-        return QStringLiteral("&");
+    if (found(source, "&\\w").size() != found(translation, "&\\w").size()) {
+        return "&";
     }
     const bool asks = QRegularExpression(QStringLiteral("[:：]$")).match(translation).hasMatch();
     return source.endsWith(QLatin1Char(':')) == asks ? QString() : QStringLiteral(":");
-}
-
-void addCodes()
-{
-    QTest::addColumn<QString>("code");
-    for (const QString& code : TranslationsManager::translatedCodes()) {
-        QTest::newRow(qPrintable(code)) << code;
-    }
 }
 
 /// The manager as a program finds it that starts with `stored` in its settings.
@@ -83,31 +71,19 @@ class TestTranslations : public QObject
 private slots:
     void cleanup() { TranslationsManager::instance()->setLanguage(QStringLiteral("en")); }
 
-    void onlyExactCodesAreTaken_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("code");
-        QTest::newRow("a language") << "de"
-                                    << "de";
-        QTest::newRow("with its country") << "zh_CN"
-                                          << "zh_CN";
-        QTest::newRow("a locale name") << "de_DE"
-                                       << "en";
-        QTest::newRow("other case") << "DE"
-                                    << "en";
-        QTest::newRow("unknown") << "xx"
-                                 << "en";
-        QTest::newRow("empty") << ""
-                               << "en";
-    }
-
     void onlyExactCodesAreTaken()
     {
-        QFETCH(QString, stored);
-        QFETCH(QString, code);
-        QCOMPARE(startWith(stored)->language(), code);
-        QCOMPARE(App::app()->language(), code);
-        QCOMPARE(App::app()->settingsValue(QStringLiteral("Language"), QString()).toString(), code);
+        const struct {
+            const char* stored;
+            const char* code;
+        } rows[] = {{"de", "de"}, {"zh_CN", "zh_CN"}, {"de_DE", "en"},
+                    {"DE", "en"}, {"xx", "en"},       {"", "en"}};
+        for (const auto& each : rows) {
+            QCOMPARE(startWith(QLatin1String(each.stored))->language(), QString(each.code));
+            QCOMPARE(App::app()->language(), QString(each.code));
+            QCOMPARE(App::app()->settingsValue(QStringLiteral("Language"), QString()).toString(),
+                     QString(each.code));
+        }
     }
 
     void arabicTurnsTheLayout()
@@ -126,7 +102,7 @@ private slots:
         QTest::addColumn<QString>("file");
         for (const QString& code : TranslationsManager::translatedCodes()) {
             for (const char* kind : {"libs_", "Tessarin_"}) {
-                const QString file = QLatin1String(kind) + code;
+                const QString file = kind + code + QStringLiteral(".ts");
                 QTest::newRow(qPrintable(file)) << file;
             }
         }
@@ -135,7 +111,7 @@ private slots:
     void theTextsAreComplete()
     {
         QFETCH(QString, file);
-        QFile source(kFolder + QLatin1Char('/') + file + QStringLiteral(".ts"));
+        QFile source(QStringLiteral(TESSARIN_TRANSLATIONS_FOLDER "/") + file);
         QVERIFY(source.open(QIODevice::ReadOnly));
         QDomDocument document;
         QVERIFY(document.setContent(&source));
@@ -152,20 +128,19 @@ private slots:
         }
     }
 
-    void libraryProgramAndToolkitSpeakIt_data() { addCodes(); }
-
     void libraryProgramAndToolkitSpeakIt()
     {
-        QFETCH(QString, code);
-        TranslationsManager::instance()->setLanguage(code);
         const auto speaks = [](const char* context, const char* text) {
             return QCoreApplication::translate(context, text) != QLatin1String(text);
         };
-        QVERIFY(speaks("QMWidgets::AppMenu", "Quit"));
-        QVERIFY(speaks("AppSettingsDialog", "Output Format"));
-        // The toolkit has not learnt Hindi, and its files are not on every machine.
-        if (QFile::exists(QStringLiteral(":/Translations/qt_%1.qm").arg(code))) {
-            QVERIFY(speaks("QFileDialog", "Recent Places"));
+        for (const QString& code : TranslationsManager::translatedCodes()) {
+            TranslationsManager::instance()->setLanguage(code);
+            QVERIFY2(speaks("QMWidgets::AppMenu", "Quit"), qPrintable(code));
+            QVERIFY2(speaks("AppSettingsDialog", "Output Format"), qPrintable(code));
+            // The toolkit has not learnt Hindi, and its files are not on every machine.
+            if (QFile::exists(QStringLiteral(":/Translations/qt_%1.qm").arg(code))) {
+                QVERIFY2(speaks("QFileDialog", "Recent Places"), qPrintable(code));
+            }
         }
     }
 

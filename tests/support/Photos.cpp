@@ -19,8 +19,13 @@ QImage noise(const QSize& size, quint32 seed, QImage::Format format, bool opaque
 
 QUrl Photos::add(const QString& name, const QSize& size, quint32 seed)
 {
+    return add(name, noise(size, seed, QImage::Format_ARGB32, true));
+}
+
+QUrl Photos::add(const QString& name, const QImage& picture)
+{
     const QString file = path(name);
-    if (!noise(size, seed, QImage::Format_ARGB32, true).save(file)) {
+    if (!picture.save(file)) {
         qFatal("Can't write the test photo %s", qPrintable(file));
     }
     return QUrl::fromLocalFile(file);

@@ -16,6 +16,7 @@ class Photos
 public:
     /// Writes a picture of noise, in the format that the name's extension tells.
     QUrl add(const QString& name, const QSize& size = QSize(60, 40), quint32 seed = 1);
+    QUrl add(const QString& name, const QImage& picture);
     /// Writes a file of any content.
     QUrl addFile(const QString& name, const QByteArray& content);
     QUrl addFolder(const QString& name);

@@ -5,15 +5,13 @@
 #include "flow/NodesOptionsPanel.h"
 #include "intake/CommonData.h"
 #include "intake/ItemsModel.h"
+#include "support/DropEvents.h"
 #include <QMWidgets/PromoMenuBar.h>
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
-#include <QDragEnterEvent>
-#include <QDropEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -113,19 +111,11 @@ bool Stage::waitFor(const Condition& condition, const QString& what)
 
 void Stage::drop(const QStringList& paths, QWidget* target)
 {
-    QMimeData data;
     QList<QUrl> urls;
     for (const QString& path : paths) {
         urls.append(QUrl::fromLocalFile(path));
     }
-    data.setUrls(urls);
-    const QPoint place = target->rect().center();
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(target, &enter);
-    if (check(enter.isAccepted(), QStringLiteral("a drag of photos is accepted"))) {
-        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(target, &event);
-    }
+    check(dropUrls(target, urls), QStringLiteral("a drag of photos is accepted"));
 }
 
 void Stage::dropPhotos()

@@ -1,4 +1,4 @@
-#include "support/PeakMemory.h"
+#include "PeakMemory.h"
 
 #include <QFile>
 

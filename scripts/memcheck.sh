@@ -14,14 +14,13 @@ if [ -z "$preset" ]; then
 fi
 
 functions=(
-    MGraphX/tst_mgraphx:equalsPlainPasses
+    MGraphX/tst_mgraphx:detailEqualsPlainLoops
     MGraphX/tst_mgraphx:stripsOfAllSizes
-    MGraphX/tst_mgraphx:turnsEqualPlainLoops
-    MGraphX/tst_mgraphx:cropEqualsPlainLoop
+    MGraphX/tst_mgraphx:geometryEqualsPlainLoops
     MGraphX/tst_mgraphx:dataUrlRoundTrip
     MGraphX/tst_mgraphx:otherTextsGiveNoImage
     MGraphX/tst_mgraphx:smallerDepths
-    MGraphX/tst_mgraphx:channelFiltersEqualPlainLoops
+    MGraphX/tst_mgraphx:channelsEqualPlainLoops
     intake/tst_intake:newPhotosMayComeInTheRunOfTheStrip
     flow/tst_flow:aNodeMayGoInTheRunThatItsOwnControlStarted
     flow/tst_flow:aFlowOfAllOperationsComesBack

@@ -4,8 +4,8 @@
 #include "flow/Operations.h"
 #include "intake/CommonData.h"
 #include "intake/ItemsModel.h"
-#include "PeakMemory.h"
 #include "StressPhotos.h"
+#include "support/PeakMemory.h"
 #include <MGraphX/HeapPolicy.h>
 #include <QMWidgets/App.h>
 

@@ -2,6 +2,23 @@
 
 #include <MGraphX/ImageLike.h>
 
+namespace
+{
+
+/// An image of that size, each pixel taken from the place that `source` gives for its own.
+template <class Place> QImage moved(const QImage& image, const QSize& size, const Place& source)
+{
+    QImage result = MGraphX::imageLike(image, size, image.format());
+    for (int y = 0; y < result.height(); ++y) {
+        for (int x = 0; x < result.width(); ++x) {
+            result.setPixel(x, y, image.pixel(source(x, y)));
+        }
+    }
+    return result;
+}
+
+} // namespace
+
 namespace reference
 {
 
@@ -11,46 +28,25 @@ QImage crop(const QImage& image, int left, int right, int top, int bottom)
     const int y0 = top * image.height() / 100;
     const int height = image.height() - (image.height() * bottom / 100 + y0);
     const int width = image.width() - (image.width() * right / 100 + x0);
-    QImage result = MGraphX::imageLike(image, {width, height}, image.format());
-    for (int y = 0; y < result.height(); ++y) {
-        for (int x = 0; x < result.width(); ++x) {
-            result.setPixel(x, y, image.pixel(x0 + x, y0 + y));
-        }
-    }
-    return result;
+    return moved(image, {width, height}, [=](int x, int y) { return QPoint(x0 + x, y0 + y); });
 }
 
 QImage rotate90(const QImage& image)
 {
-    QImage result = MGraphX::imageLike(image, {image.height(), image.width()}, image.format());
-    for (int y = 0; y < result.height(); ++y) {
-        for (int x = 0; x < result.width(); ++x) {
-            result.setPixel(x, y, image.pixel(y, image.height() - x));
-        }
-    }
-    return result;
+    return moved(image, {image.height(), image.width()},
+                 [&](int x, int y) { return QPoint(y, image.height() - x); });
 }
 
 QImage rotate180(const QImage& image)
 {
-    QImage result = MGraphX::imageLike(image, image.size(), image.format());
-    for (int y = 0; y < result.height(); ++y) {
-        for (int x = 0; x < result.width(); ++x) {
-            result.setPixel(x, y, image.pixel(image.width() - x, image.height() - y));
-        }
-    }
-    return result;
+    return moved(image, image.size(),
+                 [&](int x, int y) { return QPoint(image.width() - x, image.height() - y); });
 }
 
 QImage rotate270(const QImage& image)
 {
-    QImage result = MGraphX::imageLike(image, {image.height(), image.width()}, image.format());
-    for (int y = 0; y < result.height(); ++y) {
-        for (int x = 0; x < result.width(); ++x) {
-            result.setPixel(x, y, image.pixel(image.width() - y, x));
-        }
-    }
-    return result;
+    return moved(image, {image.height(), image.width()},
+                 [&](int x, int y) { return QPoint(image.width() - y, x); });
 }
 
 QImage frame(const QImage& image, int widthPercent, const QColor& color)

@@ -37,6 +37,10 @@ void drawText(QPainter& painter, const QSize& photo, const WMRParams& params)
 
 void drawLogo(QPainter& painter, const QSize& photo, const WMRParams& params)
 {
+    if (params.expand) {
+        painter.drawImage(QRect(QPoint(0, 0), photo), params.image);
+        return;
+    }
     const double width = photo.width() * params.size / 100.0;
     const double proportion = double(params.image.height()) / params.image.width();
     const int height = int(proportion * double(float(width)));

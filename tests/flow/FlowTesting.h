@@ -10,26 +10,31 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QVBoxLayout>
 
 /// The flow panel with its options panel, wired as on the main page.
-class Flow
+class Flow : public QWidget
 {
 public:
     Flow()
-        : panel(&options, nullptr),
-          bar(panel.findChild<NodesTabBar*>())
     {
-        QObject::connect(&panel, &FlowPanel::showOptions, &options,
-                         &NodesOptionsPanel::slotShowOptions);
-        QObject::connect(&panel, &FlowPanel::flowChanged, &options,
-                         &NodesOptionsPanel::slotFlowChanged);
-        QObject::connect(&panel, &FlowPanel::nodeRemoved, &options,
-                         &NodesOptionsPanel::slotNodeRemoved);
-        panel.resize(735, 165);
-        panel.show();
+        auto* layout = new QVBoxLayout(this);
+        layout->addWidget(&options);
+        layout->addWidget(&panel);
+        connect(&panel, &FlowPanel::showOptions, &options, &NodesOptionsPanel::slotShowOptions);
+        connect(&panel, &FlowPanel::flowChanged, &options, &NodesOptionsPanel::slotFlowChanged);
+        connect(&panel, &FlowPanel::nodeRemoved, &options, &NodesOptionsPanel::slotNodeRemoved);
+        resize(735, 600);
+        show();
     }
 
     void add(const QString& name) { choose(QStringLiteral("FlowPanelMenu"), name); }
+    void addAll(const QStringList& names)
+    {
+        for (const QString& name : names) {
+            add(name);
+        }
+    }
     QMenu* favorites() { return panel.findChild<QMenu*>(QStringLiteral("FavoritesMenu")); }
     void chooseFavorite(const QString& text) { choose(favorites()->objectName(), text); }
 
@@ -50,16 +55,17 @@ public:
         return panel.findChild<QPushButton*>(QLatin1String(name));
     }
 
+    BaseNode* node(int index) { return options.flow().value(index); }
+
     /// The operations in chain order; each tab has to stand for the node of its place.
     QStringList names()
     {
         QStringList list;
         for (int i = 0; i < bar->count(); ++i) {
-            BaseNode* const node = options.flow().value(i);
-            if (!node || node->name() != bar->tabText(i)) {
+            if (!node(i) || node(i)->name() != bar->tabText(i)) {
                 return {QStringLiteral("tab %1 has another node").arg(i)};
             }
-            list += node->name();
+            list += node(i)->name();
         }
         return options.flow().size() == bar->count()
                    ? list
@@ -71,7 +77,7 @@ public:
         return static_cast<TabLabel*>(bar->tabButton(tab, QTabBar::LeftSide))->pixmap();
     }
 
-    NodesOptionsPanel options{nullptr};
-    FlowPanel panel;
-    NodesTabBar* bar;
+    NodesOptionsPanel options{this};
+    FlowPanel panel{&options, this};
+    NodesTabBar* bar = panel.findChild<NodesTabBar*>();
 };

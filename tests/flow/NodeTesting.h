@@ -10,9 +10,9 @@
 
 /// What the tests of nodes have in common.
 
-inline std::unique_ptr<BaseNode> makeNode(const char* name)
+inline std::unique_ptr<BaseNode> makeNode(const QString& name)
 {
-    const Operation* const operation = findOperation(QLatin1String(name));
+    const Operation* const operation = findOperation(name);
     return std::unique_ptr<BaseNode>(operation ? operation->create(operation->name) : nullptr);
 }
 

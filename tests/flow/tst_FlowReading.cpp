@@ -9,16 +9,38 @@
 namespace
 {
 
-/// A flow of the operations given, each as its index, the text of its element and its name.
-QString flowOf(std::initializer_list<const char*> operations)
+/// An element of a flow. The parameters are told by a text, or by the number of a threshold.
+QString operation(const char* index, const QString& parameters = QString(),
+                  const char* name = "Binarization")
 {
-    QString xml = QStringLiteral("<OperationsFlow>");
-    for (const char* operation : operations) {
-        const QString text = QLatin1String(operation);
-        xml += QStringLiteral("<Operation name=\"Binarization\" index=\"%1\">%2</Operation>")
-                   .arg(text.section(QLatin1Char('|'), 0, 0), text.section(QLatin1Char('|'), 1));
+    bool isNumber = false;
+    parameters.toInt(&isNumber);
+    return QStringLiteral("<Operation name=\"%1\" index=\"%2\">%3</Operation>")
+        .arg(QLatin1String(name), QLatin1String(index),
+             isNumber ? QStringLiteral("<P><Threshold>%1</Threshold></P>").arg(parameters)
+                      : parameters);
+}
+
+QString flowOf(const QString& content)
+{
+    return QStringLiteral("<F>") + content + QStringLiteral("</F>");
+}
+
+QString nested(int levels)
+{
+    return QStringLiteral("<a>").repeated(levels) + QStringLiteral("</a>").repeated(levels);
+}
+
+/// What a flow holds: of each binarization its threshold, of others the name.
+QStringList held(Flow& flow)
+{
+    QStringList held;
+    for (BaseNode* node : flow.options.flow()) {
+        const QString last = written(*node).last().section(QLatin1Char('='), 1);
+        held += node->name() == QLatin1String("Binarization") ? last : node->name();
+        held.last() += QLatin1String(node->isActive() ? "" : " off");
     }
-    return xml + QStringLiteral("</OperationsFlow>");
+    return held;
 }
 
 } // namespace
@@ -29,87 +51,72 @@ class TestFlowReading : public QObject
     Q_OBJECT
 
 private slots:
-    void readsWhatItUnderstands_data()
-    {
-        QTest::addColumn<QString>("xml");
-        QTest::addColumn<QStringList>("expected");
-        const auto row = [](const char* name, const QString& xml, const QStringList& expected) {
-            QTest::newRow(name) << xml << expected;
-        };
-        const char* const five = "<P><Threshold>5</Threshold></P>";
-        const auto one = [](const char* content) {
-            return QStringLiteral("<F><Operation name=\"Binarization\" index=\"0\">%1</Operation>"
-                                  "</F>")
-                .arg(QLatin1String(content));
-        };
-        row("in the order of the indexes",
-            flowOf({"5|<P><Threshold>5</Threshold></P>", "2|<P><Threshold>2</Threshold></P>",
-                    "9|<P><Threshold>9</Threshold></P>"}),
-            {"2", "5", "9"});
-        row("an index twice",
-            flowOf({"0|<P><Threshold>1</Threshold></P>", "0|<P><Threshold>2</Threshold></P>"}),
-            {"2"});
-        row("indexes at the limits", flowOf({"-1|", "99|", "100|", "150|"}), {"127"});
-        row("no number as an index", flowOf({"|", "first|", "1.0|", "0x1|", "7|"}), {"127"});
-        row("no index at all", QStringLiteral("<F><Operation name='Blur'/></F>"), {});
-        row("an unknown operation between others",
-            QStringLiteral("<F><Operation name='Blur' index='0'/><Operation name='Sharpen' "
-                           "index='1'/><Operation index='2'/><Operation name='binarization' "
-                           "index='3'/><Operation name='Binarization' index='4'/></F>"),
-            {"Blur", "127"});
-        row("other elements, and operations elsewhere",
-            QStringLiteral("<F>text<operation name='Blur' index='0'/><!-- c --><Group><Operation "
-                           "name='Blur' index='1'/></Group><Operation name='Binarization' "
-                           "index='2'/></F>"),
-            {"127"});
-        row("no parameters", one(""), {"127"});
-        row("parameters under another tag", one(five), {"5"});
-        row("a comment before the parameters", one("<!-- mine --><P><Threshold>5</Threshold></P>"),
-            {"127"});
-        row("unknown and missing tags, a bad number",
-            one("<P><Radius>9</Radius><Threshold>many</Threshold></P>"), {"127"});
-        row("a number beyond the range", one("<P><Threshold>999</Threshold></P>"), {"255"});
-        row("active in another case", one("<P><Active>YES</Active></P>"), {"127"});
-        row("active by number", one("<P><Active>1</Active></P>"), {"127 off"});
-        row("a declaration and a bare document type",
-            QStringLiteral("<?xml version='1.0' encoding='latin1'?><!DOCTYPE F>") + one(five),
-            {"5"});
-        row("an empty text", QString(), {});
-        row("no XML", QStringLiteral("Operation"), {});
-        row("cut off", one(five).chopped(4), {});
-        row("rubbish after the end", one(five) + QLatin1Char('x'), {});
-        row("declared entities",
-            QStringLiteral("<!DOCTYPE F [<!ENTITY t \"5\">]>") +
-                one("<P><Threshold>&t;</Threshold></P>"),
-            {});
-        const auto nested = [](int levels) {
-            return QStringLiteral("<a>").repeated(levels) + QStringLiteral("</a>").repeated(levels);
-        };
-        row("deep, but bearable",
-            one(qPrintable(QStringLiteral("<P><Threshold>5</Threshold>%1</P>").arg(nested(250)))),
-            {"5"});
-        row("too deep", one(qPrintable(nested(300000))), {});
-    }
-
     void readsWhatItUnderstands()
     {
-        QFETCH(QString, xml);
-        Flow flow;
-        flow.add(QStringLiteral("Blur"));
-        QSignalSpy changed(&flow.panel, &FlowPanel::flowChanged);
-        flow.panel.loadFlow(xml);
-        QStringList loaded;
-        for (BaseNode* node : flow.options.flow()) {
-            const QString last = written(*node).last().section(QLatin1Char('='), 1);
-            loaded += node->name() == QLatin1String("Binarization") ? last : node->name();
-            if (!node->isActive()) {
-                loaded.last() += QStringLiteral(" off");
-            }
+        const QString five = flowOf(operation("0", "5"));
+        const struct {
+            const char* name;
+            QString xml;
+            QStringList expected;
+        } rows[] = {
+            {"in the order of the indexes",
+             flowOf(operation("5", "5") + operation("2", "2") + operation("9", "9")),
+             {"2", "5", "9"}},
+            {"an index twice", flowOf(operation("0", "1") + operation("0", "2")), {"2"}},
+            {"indexes at the limits",
+             flowOf(operation("-1") + operation("99") + operation("100") + operation("150")),
+             {"127"}},
+            {"no number as an index",
+             flowOf(operation("") + operation("first") + operation("1.0") + operation("0x1") +
+                    operation("7")),
+             {"127"}},
+            {"no index at all", "<F><Operation name='Blur'/></F>", {}},
+            {"unknown operations between others",
+             flowOf(operation("0", "", "Blur") + operation("1", "", "Sharpen") +
+                    operation("2", "", "binarization") + "<Operation index='3'/>" + operation("4")),
+             {"Blur", "127"}},
+            {"other elements, and operations elsewhere",
+             flowOf("text<operation name='Blur' index='0'/><!-- c --><Group>" +
+                    operation("1", "", "Blur") + "</Group>" + operation("2")),
+             {"127"}},
+            {"a comment before the parameters",
+             flowOf(operation("0", "<!-- mine --><P><Threshold>5</Threshold></P>")),
+             {"127"}},
+            {"unknown and missing tags, a bad number",
+             flowOf(operation("0", "<P><Radius>9</Radius><Threshold>many</Threshold></P>")),
+             {"127"}},
+            {"a number beyond the range", flowOf(operation("0", "999")), {"255"}},
+            {"active or not",
+             flowOf(operation("0", "<P><Active>YES</Active></P>") +
+                    operation("1", "<P><Active>1</Active></P>") +
+                    operation("2", "<P><active>no</active></P>")),
+             {"127", "127 off", "127"}},
+            {"a declaration and a bare document type",
+             "<?xml version='1.0' encoding='latin1'?><!DOCTYPE F>" + five,
+             {"5"}},
+            {"an empty text", "", {}},
+            {"no XML", "Operation", {}},
+            {"cut off", five.chopped(4), {}},
+            {"rubbish after the end", five + 'x', {}},
+            {"declared entities",
+             "<!DOCTYPE F [<!ENTITY t \"5\">]>" +
+                 flowOf(operation("0", "<P><Threshold>&t;</Threshold></P>")),
+             {}},
+            {"deep, but bearable",
+             flowOf(operation("0", "<P><Threshold>5</Threshold>" + nested(250) + "</P>")),
+             {"5"}},
+            {"too deep", flowOf(operation("0", nested(300000))), {}},
+        };
+        for (const auto& row : rows) {
+            Flow flow;
+            flow.add(QStringLiteral("Blur"));
+            QSignalSpy changed(&flow.panel, &FlowPanel::flowChanged);
+            flow.panel.loadFlow(row.xml);
+            QVERIFY2(held(flow) == row.expected, row.name);
+            QCOMPARE(flow.names().size(), row.expected.size());
+            QCOMPARE(flow.bar->currentIndex(), row.expected.size() - 1);
+            QCOMPARE(changed.count(), 1);
         }
-        QTEST(loaded, "expected");
-        QCOMPARE(flow.names().size(), loaded.size());
-        QCOMPARE(flow.bar->currentIndex(), loaded.size() - 1);
-        QCOMPARE(changed.count(), 1);
     }
 
     void loadingRunsTheWholeFlowOnce()
@@ -117,40 +124,29 @@ private slots:
         Flow flow;
         flow.options.setImage(noise(QSize(30, 20), 1));
         QSignalSpy runs(&flow.options, &NodesOptionsPanel::imageChanged);
-        flow.panel.loadFlow(flowOf({"0|<P><Threshold>5</Threshold></P>", "1|"}));
+        flow.panel.loadFlow(flowOf(operation("0", "5") + operation("1")));
         QCOMPARE(runs.count(), 1);
         QVERIFY(!flow.thumbnail(1).isNull());
     }
 
-    void boundsHoldWhereverTheTextHidesThings_data()
-    {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("each");
-        QTest::newRow("after a comment") << "<!-- ' > \" -->"
-                                         << "<a>";
-        QTest::newRow("after a section") << "<![CDATA[ <!-- ' ]]>"
-                                         << "<a>";
-        QTest::newRow("after an instruction") << "<?x ' <!-- ?>"
-                                              << "<a>";
-        QTest::newRow("after a quoted end") << "<b c='/>' d=\"'\">"
-                                            << "<a b='/>'>";
-        QTest::newRow("after a quote in a document type") << "<!DOCTYPE a '> <!-- '>"
-                                                          << "<a>";
-        QTest::newRow("after closed ones") << "<b></b><b/>"
-                                           << "<a >";
-        QTest::newRow("attributes") << "<a "
-                                    << "b=''";
-        QTest::newRow("siblings") << "<a>"
-                                  << "<b/>";
-        QTest::newRow("entities") << "<a>"
-                                  << "&b;";
-    }
-
     void boundsHoldWhereverTheTextHidesThings()
     {
-        QFETCH(QString, before);
-        QFETCH(QString, each);
-        QVERIFY(!isXmlWithinBounds(before + each.repeated(1100000)));
+        const struct {
+            QString before;
+            QString each;
+        } rows[] = {{"<!-- ' > \" -->", "<a>"},
+                    {"<![CDATA[ <!-- ' ]]>", "<a>"},
+                    {"<?x ' <!-- ?>", "<a>"},
+                    {"<b c='/>' d=\"'\">", "<a b='/>'>"},
+                    {"<!DOCTYPE a '> <!-- '>", "<a>"},
+                    {"<b></b><b/>", "<a >"},
+                    {"<a ", "b=''"}, // attributes
+                    {"<a>", "<b/>"}, // siblings
+                    {"<a>", "&b;"}}; // entities
+        for (const auto& row : rows) {
+            QVERIFY2(!isXmlWithinBounds(row.before + row.each.repeated(1100000)),
+                     qPrintable(row.before + row.each));
+        }
     }
 };
 

@@ -1,75 +1,52 @@
-#include "flow/BaseNode.h"
 #include "flow/ComboSlider.h"
-#include "flow/FlowPanel.h"
-#include "flow/NodesOptionsPanel.h"
-#include "flow/NodesTabBar.h"
+#include "FlowTesting.h"
+#include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
 #include "support/WindowEvents.h"
 
 #include <memory>
+#include <MGraphX/GraphX.h>
 #include <QEventLoop>
 #include <QPointer>
-#include <QPushButton>
-#include <QSlider>
+#include <QSignalSpy>
 #include <QSpinBox>
-#include <QVBoxLayout>
 #include <utility>
+
+using MGraphX::GraphX;
 
 namespace
 {
 
-/// Both panels of the flow on one page, with a photo and three operations.
-class Page : public QWidget
+const QString kInvert = QStringLiteral("Invert");
+const QString kGray = QStringLiteral("Grayscale");
+const QString kBinary = QStringLiteral("Binarization");
+
+QImage photo()
 {
-public:
-    Page()
-        : options(new NodesOptionsPanel(this)),
-          panel(new FlowPanel(options, this))
-    {
-        auto* layout = new QVBoxLayout(this);
-        layout->addWidget(options);
-        layout->addWidget(panel);
-        connect(panel, &FlowPanel::flowChanged, options, &NodesOptionsPanel::slotFlowChanged);
-        connect(panel, &FlowPanel::nodeRemoved, options, &NodesOptionsPanel::slotNodeRemoved);
-        options->setImage(noise(QSize(40, 30), 1));
-        for (const char* name : {"Invert", "Grayscale", "Invert", "Grayscale", "Binarization"}) {
-            panel->addNode(QLatin1String(name));
+    return noise(QSize(40, 30), 1);
+}
+
+/// Calls act when the first node of the next run has done its work.
+template <class Act> void inTheNextRun(Flow& flow, Act act)
+{
+    auto done = std::make_shared<bool>(false);
+    QObject::connect(flow.node(0), &BaseNode::previewChanged, &flow, [done, act] {
+        if (!std::exchange(*done, true)) {
+            act();
         }
-        panel->slotTabMoved(0, 0);
-        bar = panel->findChild<NodesTabBar*>();
-        removeButton = panel->findChild<QPushButton*>(QStringLiteral("PushButtonRemove"));
-        resize(735, 600);
-        show();
-    }
+    });
+}
 
-    /// Calls act when the first node of the next run has done its work.
-    template <class Act> void inTheNextRun(Act act)
-    {
-        auto done = std::make_shared<bool>(false);
-        connect(options->flow().value(0), &BaseNode::previewChanged, this, [done, act] {
-            if (!std::exchange(*done, true)) {
-                act();
-            }
-        });
+/// A flow of one operation after the other, as a file tells it.
+QString told(const QStringList& names)
+{
+    QString xml;
+    for (int i = 0; i < names.size(); ++i) {
+        xml += QStringLiteral("<Operation name='%1' index='%2'/>").arg(names.at(i)).arg(i);
     }
-
-    bool isConsistent() const
-    {
-        for (int i = 0; i < bar->count(); ++i) {
-            const BaseNode* const node = options->flow().value(i);
-            if (!node || node->name() != bar->tabText(i)) {
-                return false;
-            }
-        }
-        return options->flow().size() == bar->count();
-    }
-
-    NodesOptionsPanel* options;
-    FlowPanel* panel;
-    NodesTabBar* bar;
-    QPushButton* removeButton;
-};
+    return QStringLiteral("<F>") + xml + QStringLiteral("</F>");
+}
 
 } // namespace
 
@@ -81,111 +58,107 @@ class TestFlowReentry : public QObject
 private slots:
     void aNodeMayGoInTheRunThatItsOwnControlStarted()
     {
-        Page page;
-        QPointer<BaseNode> binary = page.options->flow().value(4);
+        Flow flow;
+        flow.options.setImage(photo());
+        flow.addAll({kInvert, kGray, kBinary});
+        QPointer<BaseNode> binary = flow.node(2);
         QPointer<QSpinBox> spinBox = binary->findChild<QSpinBox*>();
         spinBox->setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QVERIFY(QTest::qWaitForWindowActive(&flow));
         bool aliveAfterTheRun = false;
-        page.inTheNextRun([&] { postClick(page.removeButton); });
-        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), &page,
+        inTheNextRun(flow, [&] { postClick(flow.button("PushButtonRemove")); });
+        connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), &flow,
                 [&] { aliveAfterTheRun = !binary.isNull(); });
         postKey(spinBox, Qt::Key_Up);
         // Deferred deletion knows how deep it is only below an event loop.
         QEventLoop loop;
         connect(binary, &QObject::destroyed, &loop, &QEventLoop::quit);
         loop.exec();
-        QCOMPARE(page.bar->count(), 4);
         QVERIFY(aliveAfterTheRun);
-        QVERIFY(page.isConsistent());
-    }
-
-    void aDraggedTabMayBeLetGoOutsideInTheRunOfTheDrag_data()
-    {
-        QTest::addColumn<int>("removals");
-        QTest::newRow("only let go") << 0;
-        QTest::newRow("and one removed") << 1;
-        QTest::newRow("and all removed") << 5;
+        QCOMPARE(flow.names(), QStringList({kInvert, kGray}));
     }
 
     void aDraggedTabMayBeLetGoOutsideInTheRunOfTheDrag()
     {
-        QFETCH(int, removals);
-        Page page;
-        QVERIFY(QTest::qWaitForWindowActive(&page));
-        const QPoint from = page.bar->tabRect(4).center();
-        bool letGo = false;
-        postMouse(page.bar, from, QEvent::MouseButtonPress);
-        QCoreApplication::processEvents();
-        page.inTheNextRun([&] {
-            postMouse(page.bar, QPoint(from.x() / 2, -30), QEvent::MouseButtonRelease);
-            for (int i = 0; i < removals; ++i) {
-                postClick(page.removeButton);
-            }
-            letGo = true;
-        });
-        for (int i = 1; i <= 10 && !letGo; ++i) {
-            postMouse(page.bar, from - QPoint(i * from.x() / 10, 0), QEvent::MouseMove);
+        for (const int removals : {0, 1, 5}) {
+            Flow flow;
+            flow.options.setImage(photo());
+            flow.addAll({kInvert, kGray, kInvert, kGray, kBinary});
+            QVERIFY(QTest::qWaitForWindowActive(&flow));
+            const QPoint from = flow.bar->tabRect(4).center();
+            bool letGo = false;
+            postMouse(flow.bar, from, QEvent::MouseButtonPress);
             QCoreApplication::processEvents();
+            inTheNextRun(flow, [&] {
+                postMouse(flow.bar, QPoint(from.x() / 2, -30), QEvent::MouseButtonRelease);
+                for (int i = 0; i < removals; ++i) {
+                    postClick(flow.button("PushButtonRemove"));
+                }
+                letGo = true;
+            });
+            for (int i = 1; i <= 10 && !letGo; ++i) {
+                postMouse(flow.bar, from - QPoint(i * from.x() / 10, 0), QEvent::MouseMove);
+                QCoreApplication::processEvents();
+            }
+            QVERIFY(letGo);
+            QTRY_COMPARE(flow.names().size(), 5 - removals);
         }
-        QVERIFY(letGo);
-        QTRY_COMPARE(page.bar->count(), 5 - removals);
-        QVERIFY(page.isConsistent());
-    }
-
-    void aFlowLoadedInTheRunOfAnotherStays_data()
-    {
-        QTest::addColumn<QString>("meanwhile");
-        QTest::addColumn<QStringList>("expected");
-        QTest::newRow("another one") << "load" << QStringList{"Blur", "Crop"};
-        QTest::newRow("none") << "clear" << QStringList();
-        QTest::newRow("an added operation") << "add" << QStringList{"Mirror"};
-        QTest::newRow("a removed operation") << "remove" << QStringList{"Mirror"};
     }
 
     void aFlowLoadedInTheRunOfAnotherStays()
     {
-        QFETCH(QString, meanwhile);
-        Page page;
-        const QString flow = QStringLiteral("<F>%1</F>");
-        const QString operation = QStringLiteral("<Operation name='%1' index='%2'/>");
-        page.inTheNextRun([&] {
-            if (meanwhile == QLatin1String("load")) {
-                page.panel->loadFlow(flow.arg(operation.arg(QStringLiteral("Blur")).arg(0) +
-                                              operation.arg(QStringLiteral("Crop")).arg(1)));
-            } else if (meanwhile == QLatin1String("clear")) {
-                page.panel->slotNewFavorite();
-            } else if (meanwhile == QLatin1String("add")) {
-                page.panel->slotAddWaterMarkNode();
-            } else {
-                page.panel->slotRemoveNode();
-            }
-        });
-        page.panel->loadFlow(flow.arg(operation.arg(QStringLiteral("Mirror")).arg(0)));
-        QVERIFY(page.isConsistent());
-        QStringList names;
-        for (const BaseNode* node : page.options->flow()) {
-            names += node->name();
+        const struct {
+            void (*meanwhile)(FlowPanel&);
+            QStringList expected;
+        } rows[] = {{[](FlowPanel& panel) {
+                         panel.loadFlow(told({"Blur", "Crop"}));
+                     },
+                     {"Blur", "Crop"}},
+                    {[](FlowPanel& panel) { panel.slotNewFavorite(); }, {}},
+                    {[](FlowPanel& panel) { panel.slotAddWaterMarkNode(); }, {"Mirror"}},
+                    {[](FlowPanel& panel) { panel.slotRemoveNode(); }, {"Mirror"}}};
+        for (const auto& row : rows) {
+            Flow flow;
+            flow.options.setImage(photo());
+            flow.addAll({kInvert, kGray, kInvert, kGray, kBinary});
+            inTheNextRun(flow, [&] { row.meanwhile(flow.panel); });
+            flow.panel.loadFlow(told({"Mirror"}));
+            QCOMPARE(flow.names(), row.expected);
         }
-        QTEST(names, "expected");
     }
 
-    void aStepOfTheSliderInItsOwnRunIsHeard()
+    void aChangeOvertakesTheRun()
     {
-        ComboSlider control(QString(), nullptr);
-        control.setRange(0, 100);
-        auto* const slider = control.findChild<QSlider*>();
-        QList<int> heard;
-        connect(&control, &ComboSlider::sliderMoved, &control, [&](int value) {
-            heard += value;
-            if (value == 10) {
-                slider->setValue(25);
-            }
-        });
-        slider->setValue(10);
-        QCOMPARE(heard, QList<int>({10, 25}));
-        QCOMPARE(control.findChild<QSpinBox*>()->value(), 25);
-        QCOMPARE(control.value(), 25);
+        const QImage source = photo();
+        const QImage inverted = GraphX::invert(source);
+        const struct {
+            void (*change)(Flow&);
+            QImage expected;
+        } rows[] = {{[](Flow& flow) { flow.node(1)->findChild<ComboSlider*>()->setValue(40); },
+                     GraphX::grayscale(GraphX::binarize(inverted, 40))},
+                    {[](Flow& flow) {
+                         flow.bar->setCurrentIndex(1);
+                         flow.panel.slotRemoveNode();
+                     },
+                     GraphX::grayscale(inverted)},
+                    {[](Flow& flow) { flow.bar->moveTab(2, 1); },
+                     GraphX::binarize(GraphX::grayscale(inverted), 127)}};
+        for (const auto& row : rows) {
+            Flow flow;
+            flow.options.setImage(source);
+            flow.addAll({kInvert, kBinary, kGray});
+            inTheNextRun(flow, [&] {
+                // From within the run that comes next, as an event.
+                QMetaObject::invokeMethod(
+                    &flow, [&] { row.change(flow); }, Qt::QueuedConnection);
+            });
+            QSignalSpy changed(&flow.options, &NodesOptionsPanel::imageChanged);
+            QSignalSpy afterLast(flow.node(2), &BaseNode::previewChanged);
+            flow.options.slotParametersChanged();
+            QCOMPARE(changed.count(), 1);
+            QCOMPARE(afterLast.count(), 1);
+            COMPARE_IMAGES(changed.last().first().value<QImage>(), row.expected);
+        }
     }
 };
 

@@ -14,58 +14,62 @@
 #include "flow/nodes/RTTNode.h"
 #include "flow/nodes/UCSNode.h"
 #include "flow/nodes/WMRNode.h"
-#include <MGraphX/GraphX.h>
+#include <MGraphX/Tone.h>
 
 #include <algorithm>
 #include <QIcon>
+#include <utility>
 
 namespace
 {
 
-using MGraphX::GraphX;
+namespace tone = MGraphX::tone;
 
 template <class Node> BaseNode* create(const QString& name)
 {
     return new Node(name, nullptr);
 }
 
-/// For an operation without parameters, whatever the text says.
-template <QImage (*filter)(const QImage&)> QImage plain(const QImage& image, const QString&)
+template <class Node> QImage process(QImage image, const QString& xml)
 {
-    return filter(image);
+    return Node::processFromXml(std::move(image), xml);
+}
+
+/// For an operation without parameters, whatever the text says.
+template <QImage (*filter)(QImage)> QImage plain(QImage image, const QString&)
+{
+    return filter(std::move(image));
 }
 
 QVector<Operation> makeOperations()
 {
     return {
         {QStringLiteral("Brightness, Contrast, Saturation"), QStringLiteral("Icon_BRT.png"),
-         create<BCSNode>, BCSNode::processFromXml},
-        {QStringLiteral("Crop"), QStringLiteral("Icon_CRP.png"), create<CRPNode>,
-         CRPNode::processFromXml},
+         create<BCSNode>, process<BCSNode>},
+        {QStringLiteral("Crop"), QStringLiteral("Icon_CRP.png"), create<CRPNode>, process<CRPNode>},
         {QStringLiteral("Resize"), QStringLiteral("Icon_RSZ.png"), create<RSZNode>,
-         RSZNode::processFromXml},
+         process<RSZNode>},
         {QStringLiteral("Rotate"), QStringLiteral("Icon_RTT.png"), create<RTTNode>,
-         RTTNode::processFromXml},
+         process<RTTNode>},
         {QStringLiteral("Mirror"), QStringLiteral("Icon_MRR.png"), create<MRRNode>,
-         MRRNode::processFromXml},
+         process<MRRNode>},
         {QStringLiteral("Watermark"), QStringLiteral("Icon_WMR.png"), create<WMRNode>,
-         WMRNode::processFromXml},
+         process<WMRNode>},
         {QStringLiteral("Histogram optimizer"), QStringLiteral("Icon_HST.png"), create<HSTNode>,
-         HSTNode::processFromXml},
+         process<HSTNode>},
         {QStringLiteral("Vignetting"), QStringLiteral("Icon_WGN.png"), create<UCSNode>,
-         UCSNode::processFromXml},
+         process<UCSNode>},
         {QStringLiteral("Frame"), QStringLiteral("Icon_FRM.png"), create<FRMNode>,
-         FRMNode::processFromXml},
+         process<FRMNode>},
         {QStringLiteral("RGB-Order"), QStringLiteral("Icon_RGB.png"), create<RGBNode>,
-         RGBNode::processFromXml},
-        {QStringLiteral("Blur"), QStringLiteral("Icon_BLR.png"), create<BLRNode>,
-         BLRNode::processFromXml},
+         process<RGBNode>},
+        {QStringLiteral("Blur"), QStringLiteral("Icon_BLR.png"), create<BLRNode>, process<BLRNode>},
         {QStringLiteral("Invert"), QStringLiteral("Icon_INV.png"), create<INVNode>,
-         plain<GraphX::invert>},
+         plain<tone::invert>},
         {QStringLiteral("Binarization"), QStringLiteral("Icon_BIN.png"), create<BINNode>,
-         BINNode::processFromXml},
+         process<BINNode>},
         {QStringLiteral("Grayscale"), QStringLiteral("Icon_GRS.png"), create<GRSNode>,
-         plain<GraphX::grayscale>},
+         plain<tone::grayscale>},
     };
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 #include <QVector>
 
 class BaseNode;
-class QImage;
 
 /// A row of the operation table. Its name is the one key that ties the add menu, the tabs, the
 /// factory, flow files and the batch together; it is never translated.
@@ -14,8 +14,9 @@ struct Operation {
     QString icon; ///< resource file of the icon, without path
     /// Makes a node of this operation, with no parent.
     BaseNode* (*create)(const QString& name);
-    /// Applies the operation as a parameter text tells it. Runs on any thread.
-    QImage (*processFromXml)(const QImage& image, const QString& xml);
+    /// Applies the operation as a parameter text tells it. An image that is given away and that
+    /// nobody else holds leaves its memory to the result, if the operation can. Runs on any thread.
+    QImage (*processFromXml)(QImage image, const QString& xml);
 };
 
 /// All operations, in the add menu's order. An operation is added by a row here and a class for it.

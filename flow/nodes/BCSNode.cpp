@@ -2,7 +2,7 @@
 
 #include "flow/ComboSlider.h"
 #include "flow/SliderParameter.h"
-#include <MGraphX/GraphX.h>
+#include <MGraphX/Tone.h>
 
 namespace
 {
@@ -15,10 +15,10 @@ constexpr SliderParameter kParameters[] = {
     {"Saturation", QT_TRANSLATE_NOOP("BCSNode", "Saturation:"), 0, 100, 20, 0, 100, 0, ""},
 };
 
-QImage apply(const QImage& image, int brightness, int contrast, int saturation)
+QImage apply(QImage image, int brightness, int contrast, int saturation)
 {
-    return MGraphX::GraphX::brightnessContrastSaturation(image, brightness, contrast,
-                                                         static_cast<float>(saturation / 50.0));
+    return MGraphX::tone::brightnessContrastSaturation(std::move(image), brightness, contrast,
+                                                       static_cast<float>(saturation / 50.0));
 }
 
 } // namespace
@@ -41,8 +41,8 @@ void BCSNode::process(QImage& image)
     });
 }
 
-QImage BCSNode::processFromXml(const QImage& image, const QString& xml)
+QImage BCSNode::processFromXml(QImage&& image, const QString& xml)
 {
     const auto [brightness, contrast, saturation] = readValues(xml, kParameters);
-    return apply(image, brightness, contrast, saturation);
+    return apply(std::move(image), brightness, contrast, saturation);
 }

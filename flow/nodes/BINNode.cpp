@@ -3,6 +3,7 @@
 #include "flow/ComboSlider.h"
 #include "flow/SliderParameter.h"
 #include <MGraphX/GraphX.h>
+#include <MGraphX/Tone.h>
 
 using MGraphX::GraphX;
 
@@ -27,8 +28,8 @@ void BINNode::process(QImage& image)
     });
 }
 
-QImage BINNode::processFromXml(const QImage& image, const QString& xml)
+QImage BINNode::processFromXml(QImage&& image, const QString& xml)
 {
     const auto [threshold] = readValues(xml, kParameters);
-    return GraphX::binarize(image, threshold);
+    return MGraphX::tone::binarize(std::move(image), threshold);
 }

@@ -3,6 +3,7 @@
 #include "flow/ComboSlider.h"
 #include "flow/SliderParameter.h"
 #include <MGraphX/GraphX.h>
+#include <MGraphX/Tone.h>
 
 using MGraphX::GraphX;
 
@@ -30,8 +31,8 @@ void HSTNode::process(QImage& image)
     });
 }
 
-QImage HSTNode::processFromXml(const QImage& image, const QString& xml)
+QImage HSTNode::processFromXml(QImage&& image, const QString& xml)
 {
     const auto [left, right] = readValues(xml, kParameters);
-    return GraphX::optimizeHistogram(image, left, right);
+    return MGraphX::tone::optimizeHistogram(std::move(image), left, right);
 }

@@ -1,12 +1,12 @@
 #include "flow/nodes/RGBNode.h"
 
 #include "flow/ParameterReader.h"
-#include <MGraphX/GraphX.h>
+#include <MGraphX/Tone.h>
 
 #include <QComboBox>
 #include <QVBoxLayout>
 
-using MGraphX::GraphX;
+namespace tone = MGraphX::tone;
 
 namespace
 {
@@ -39,20 +39,20 @@ void RGBNode::process(QImage& image)
     });
 }
 
-QImage RGBNode::processFromXml(const QImage& image, const QString& xml)
+QImage RGBNode::processFromXml(QImage&& image, const QString& xml)
 {
-    return applyMode(image, ParameterReader::intValue(xml, kModeTag, 0));
+    return applyMode(std::move(image), ParameterReader::intValue(xml, kModeTag, 0));
 }
 
-QImage RGBNode::applyMode(const QImage& image, int mode)
+QImage RGBNode::applyMode(QImage image, int mode)
 {
     switch (mode) {
     case 0:
-        return GraphX::swapRedBlue(image);
+        return tone::swapRedBlue(std::move(image));
     case 1:
-        return GraphX::swapRedGreen(image);
+        return tone::swapRedGreen(std::move(image));
     case 2:
-        return GraphX::swapGreenBlue(image);
+        return tone::swapGreenBlue(std::move(image));
     default:
         return image;
     }

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QSignalBlocker>
+#include <utility>
 
 namespace
 {
@@ -59,25 +60,39 @@ bool isGrowthBeyondReason(const QImage& image, qint64 width, qint64 height)
            4.0 * columns * rows + 16.0 * (columns + rows) > kMostBytes;
 }
 
-QImage scaledTo(const QImage& image, qint64 width, qint64 height)
+/// The toolkit scales a large image by way of a premultiplied copy, and leaves the result like
+/// that. An image that nobody else holds can be premultiplied where it lies.
+QImage scaled(QImage image, const QSize& size)
+{
+    constexpr qint64 kLargePixels = 1 << 22;
+    const bool large = qint64(image.width()) * image.height() >= kLargePixels;
+    const bool inPlace = large && image.format() == QImage::Format_ARGB32 && image.isDetached();
+    if (inPlace && size != image.size()) {
+        image = std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    }
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QImage scaledTo(QImage image, qint64 width, qint64 height)
 {
     if (width < 1 || height < 1 || isGrowthBeyondReason(image, width, height)) {
         return QImage();
     }
-    return image.scaled(int(width), int(height), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return scaled(std::move(image), QSize(int(width), int(height)));
 }
 
-QImage scaledTo(const QImage& image, const QSize& size)
+QImage scaledTo(QImage image, const QSize& size)
 {
-    return scaledTo(image, size.width(), size.height());
+    return scaledTo(std::move(image), size.width(), size.height());
 }
 
-QImage scaledInto(const QImage& image, const QSize& box)
+QImage scaledInto(QImage image, const QSize& box)
 {
     if (box.isEmpty()) {
         return QImage();
     }
-    return scaledTo(image, image.size().scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    const QSize size = image.size().scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    return scaledTo(std::move(image), size);
 }
 
 } // namespace
@@ -110,28 +125,30 @@ void RSZNode::process(QImage& image)
     });
 }
 
-QImage RSZNode::processFromXml(const QImage& image, const QString& xml)
+QImage RSZNode::processFromXml(QImage&& image, const QString& xml)
 {
     const auto [width, height] = readValues(xml, kParameters);
     const int mode = ParameterReader::intValue(xml, kModeTag, Percentage);
-    return scaleImage(image, width, height, mode, false);
+    return scaleImage(std::move(image), width, height, mode, false);
 }
 
-QImage RSZNode::scaleImage(const QImage& image, int width, int height, int mode, bool preview)
+QImage RSZNode::scaleImage(QImage&& image, int width, int height, int mode, bool preview)
 {
     if (image.isNull()) {
-        return image;
+        return QImage();
     }
+    const auto columns = qint64(width / 100.0 * image.width());
+    const auto rows = qint64(height / 100.0 * image.height());
     switch (mode) {
     case Percentage:
-        return scaledTo(image, qint64(width / 100.0 * image.width()),
-                        qint64(height / 100.0 * image.height()));
+        return scaledTo(std::move(image), columns, rows);
     case MaximumPixels:
-        return preview ? image : scaledInto(image, QSize(width, height));
+        return preview ? std::move(image) : scaledInto(std::move(image), QSize(width, height));
     case Pixels:
-        return scaledTo(image, preview ? previewSize(width, height) : QSize(width, height));
+        return scaledTo(std::move(image),
+                        preview ? previewSize(width, height) : QSize(width, height));
     default:
-        return image;
+        return std::move(image);
     }
 }
 

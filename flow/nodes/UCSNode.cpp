@@ -36,10 +36,10 @@ void UCSNode::process(QImage& image)
     });
 }
 
-QImage UCSNode::processFromXml(const QImage& image, const QString& xml)
+QImage UCSNode::processFromXml(QImage&& image, const QString& xml)
 {
     const auto [radius, opacity] = readValues(xml, kParameters);
-    return vignette(image, radius, opacity, readValue(xml, kColor));
+    return MGraphX::vignetteImage(std::move(image), radius, opacity, readValue(xml, kColor));
 }
 
 QImage UCSNode::vignette(const QImage& image, int radius, int opacity, const QColor& color)

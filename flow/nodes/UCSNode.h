@@ -13,7 +13,11 @@ public:
     UCSNode(const QString& name, QWidget* parent);
 
     void process(QImage& image) override;
-    static QImage processFromXml(const QImage& image, const QString& xml);
+    static QImage processFromXml(const QImage& image, const QString& xml)
+    {
+        return processFromXml(QImage(image), xml);
+    }
+    static QImage processFromXml(QImage&& image, const QString& xml);
 
     /// MGraphX::vignetteImage: radius in percent of the longer side, opacity in percent. The
     /// colour's alpha doesn't count, and an invalid colour is black.

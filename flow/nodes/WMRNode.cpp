@@ -336,9 +336,9 @@ void WMRNode::process(QImage& image)
               [params = params()](const QImage& source) { return drawWatermark(source, params); });
 }
 
-QImage WMRNode::processFromXml(const QImage& image, const QString& xml)
+QImage WMRNode::processFromXml(QImage&& image, const QString& xml)
 {
-    return drawWatermark(image, WMRParams::fromXml(xml));
+    return ::drawWatermark(std::move(image), WMRParams::fromXml(xml));
 }
 
 QImage WMRNode::drawWatermark(const QImage& image, const WMRParams& params)

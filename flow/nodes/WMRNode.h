@@ -26,7 +26,11 @@ public:
 
     void readParameters(const QDomNode& parameters) override;
     void process(QImage& image) override;
-    static QImage processFromXml(const QImage& image, const QString& xml);
+    static QImage processFromXml(const QImage& image, const QString& xml)
+    {
+        return processFromXml(QImage(image), xml);
+    }
+    static QImage processFromXml(QImage&& image, const QString& xml);
     static QImage drawWatermark(const QImage& image, const WMRParams& params);
 
 public slots:

@@ -8,6 +8,7 @@
 #include <limits>
 #include <QFontMetrics>
 #include <QPainter>
+#include <utility>
 
 namespace
 {
@@ -26,20 +27,19 @@ bool isNear(qint64 coordinate)
     return coordinate >= -kFarthest && coordinate <= kFarthest;
 }
 
-/// Paints on a copy of the photo, in its pixels even if it is marked as one for dense screens.
-template <class Paint> QImage painted(const QImage& photo, int transparency, const Paint& paint)
+/// Paints on the photo, in its pixels even if it is marked as one for dense screens.
+template <class Paint> QImage painted(QImage photo, int transparency, const Paint& paint)
 {
-    QImage result = photo;
-    result.setDevicePixelRatio(1);
-    QPainter painter(&result);
-    if (!painter.isActive()) {
-        return photo;
+    const double ratio = photo.devicePixelRatio();
+    photo.setDevicePixelRatio(1);
+    QPainter painter(&photo);
+    if (painter.isActive()) {
+        painter.setOpacity(1.0 - transparency / 100.0);
+        paint(painter);
+        painter.end();
     }
-    painter.setOpacity(1.0 - transparency / 100.0);
-    paint(painter);
-    painter.end();
-    result.setDevicePixelRatio(photo.devicePixelRatio());
-    return result;
+    photo.setDevicePixelRatio(ratio);
+    return photo;
 }
 
 /// Where a mark of `mark` starts in `whole`, in a grid of three: at the near end, in the middle or
@@ -72,7 +72,7 @@ QRect markBox(const QSize& photo, const QSize& mark, const WMRParams& params)
     return QRect(int(left), int(top), mark.width() + 2 * kMargin, mark.height() + 2 * kMargin);
 }
 
-QImage drawText(const QImage& photo, const WMRParams& params)
+QImage drawText(QImage photo, const WMRParams& params)
 {
     if (params.text.isEmpty()) {
         return photo;
@@ -93,7 +93,7 @@ QImage drawText(const QImage& photo, const WMRParams& params)
     if (box.isNull()) {
         return photo;
     }
-    return painted(photo, params.transparency, [&](QPainter& painter) {
+    return painted(std::move(photo), params.transparency, [&](QPainter& painter) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setFont(font);
         if (params.backgroundEnabled) {
@@ -145,15 +145,15 @@ QImage scaledMark(const QImage& mark, const QRect& box, const QRect& drawn)
     return mark.scaled(box.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-QImage drawImage(const QImage& photo, const WMRParams& params)
+QImage drawImage(QImage photo, const WMRParams& params)
 {
     if (params.image.isNull()) {
         return photo;
     }
     if (params.expand) {
-        return painted(photo, params.transparency, [&](QPainter& painter) {
-            painter.drawImage(QRect(QPoint(0, 0), photo.size()), params.image);
-        });
+        const QRect whole = photo.rect();
+        return painted(std::move(photo), params.transparency,
+                       [&](QPainter& painter) { painter.drawImage(whole, params.image); });
     }
     const QSize size = sizeInPhoto(params.image.size(), photo.width(), params.size);
     const QRect box = markBox(photo.size(), size, params);
@@ -166,22 +166,22 @@ QImage drawImage(const QImage& photo, const WMRParams& params)
     if (mark.isNull()) {
         return photo;
     }
-    return painted(photo, params.transparency,
+    return painted(std::move(photo), params.transparency,
                    [&](QPainter& painter) { painter.drawImage(drawn, mark); });
 }
 
 } // namespace
 
-QImage drawWatermark(const QImage& photo, const WMRParams& params)
+QImage drawWatermark(QImage photo, const WMRParams& params)
 {
     if (photo.isNull()) {
         return photo;
     }
     switch (params.mode) {
     case WMRParams::kTextMode:
-        return drawText(photo, params);
+        return drawText(std::move(photo), params);
     case WMRParams::kImageMode:
-        return drawImage(photo, params);
+        return drawImage(std::move(photo), params);
     default:
         return photo;
     }

@@ -1,6 +1,7 @@
 #include "ByteMap.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace MGraphX
 {
@@ -32,17 +33,18 @@ std::optional<kernels::ByteLine> lineThrough(const ByteTable& table, int start)
     return kernels::ByteLine{start, uint32_t(least)};
 }
 
-QImage mapBytes(const QImage& source, QImage::Format format, const ByteTable& table, int start,
+QImage mapBytes(QImage source, QImage::Format format, const ByteTable& table, int start,
                 uint32_t alpha)
 {
     const auto line = lineThrough(table, start);
-    return mapRows(source, format, [&](const uint32_t* words, uint32_t* target, int count) {
-        if (line) {
-            kernels::mapRow(words, target, count, *line, alpha);
-        } else {
-            kernels::mapRow(words, target, count, table.data(), alpha);
-        }
-    });
+    return mapRows(std::move(source), format,
+                   [&](const uint32_t* words, uint32_t* target, int count) {
+                       if (line) {
+                           kernels::mapRow(words, target, count, *line, alpha);
+                       } else {
+                           kernels::mapRow(words, target, count, table.data(), alpha);
+                       }
+                   });
 }
 
 } // namespace MGraphX

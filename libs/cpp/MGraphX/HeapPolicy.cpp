@@ -12,7 +12,8 @@ namespace MGraphX
 void keepHeap()
 {
 #ifdef __GLIBC__
-    constexpr int kLargestKept = 1 << 30;
+    // Above this, time goes elsewhere, and what no later image fits into would be memory lost.
+    constexpr int kLargestKept = 1 << 28;
     // One arena: the batch, the preview's pool thread and the interface then share what is kept.
     mallopt(M_ARENA_MAX, 1);
     mallopt(M_MMAP_THRESHOLD, kLargestKept);

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <numeric>
 #include <QPainter>
+#include <utility>
 #include <vector>
 
 namespace MGraphX
@@ -65,9 +66,9 @@ std::vector<int> pairedOrder(const std::vector<int>& places, const GradientRows&
     return order;
 }
 
-/// Lays what the painter would sample of the square over a copy of `source`, row by row. The
-/// painter itself gets the words that the kernels leave, all at once.
-QImage withSampledRows(const QImage& source, const VignetteLook& look)
+/// Lays what the painter would sample of the square over `source` if it is free, else over a copy,
+/// row by row. The painter itself gets the words that the kernels leave, all at once.
+QImage withSampledRows(QImage source, const VignetteLook& look)
 {
     const QImage::Format format = source.format();
     const int width = source.width();
@@ -79,15 +80,21 @@ QImage withSampledRows(const QImage& source, const VignetteLook& look)
     const bool premultiplied = format == QImage::Format_ARGB32_Premultiplied;
     const int fast = premultiplied ? width : straightOverCount(width);
     QImage rest(width - fast, source.height(), format);
-    QImage result = imageLike(source, source.size(), format);
+    const bool inPlace = isFreeFor(source, format);
+    QImage result = inPlace ? std::move(source) : imageLike(source, source.size(), format);
     if (result.isNull() || (fast < width && rest.isNull())) {
         return QImage();
     }
     std::vector<uint32_t> sampled(size_t(width), 0);
+    std::vector<uint32_t> kept(inPlace ? size_t(width) : 0);
     for (const int y : pairedOrder(rows, gradient)) {
-        const uint32_t* under = sourceRow(source, y);
+        const uint32_t* under = sourceRow(inPlace ? result : source, y);
         for (int x = 0; x < width; x += kernels::kLineWords) {
             kernels::prefetch(under, x);
+        }
+        if (inPlace) {
+            std::copy_n(under, width, kept.begin());
+            under = kept.data();
         }
         const uint32_t* over = gradient.row(rows[size_t(y)]);
         if (width < side) {
@@ -106,7 +113,7 @@ QImage withSampledRows(const QImage& source, const VignetteLook& look)
             std::copy(over + fast, over + width, targetRow(rest, y));
         }
     }
-    for (int y = int(rows.size()); y < result.height(); ++y) {
+    for (int y = int(rows.size()); y < result.height() && !inPlace; ++y) {
         std::copy_n(sourceRow(source, y), width, targetRow(result, y));
     }
     paintOver(rest, result, fast);
@@ -115,19 +122,22 @@ QImage withSampledRows(const QImage& source, const VignetteLook& look)
 
 } // namespace
 
-QImage vignetteImage(const QImage& image, int radius, int opacity, const QColor& color)
+QImage vignetteImage(QImage image, int radius, int opacity, const QColor& color)
 {
     // What is asked of the painter beforehand pays for more pixels than the preview has.
     constexpr int64_t kManyPixels = 1 << 19;
     const bool premultiplied = image.format() == QImage::Format_ARGB32_Premultiplied;
-    const QImage source = premultiplied ? image : image.convertToFormat(QImage::Format_ARGB32);
+    QImage source = std::move(image);
+    if (!premultiplied) {
+        source = source.convertToFormat(QImage::Format_ARGB32);
+    }
     if (source.isNull()) {
         return source;
     }
     const int64_t side = std::max(source.width(), source.height());
     const VignetteLook look{double(radius * side / 100), opacity, color};
     return side * side < kManyPixels ? withPaintedSquare(source, look)
-                                     : withSampledRows(source, look);
+                                     : withSampledRows(std::move(source), look);
 }
 
 } // namespace MGraphX

@@ -3,6 +3,7 @@
 #include "batch/AppSettingsDialog.h"
 #include "batch/BatchWorker.h"
 #include "intake/CommonData.h"
+#include <MGraphX/Reduced.h>
 #include <QMWidgets/App.h>
 #include <QMWidgets/FollowLanguage.h>
 #include <QMWidgets/Label.h>
@@ -18,6 +19,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace
 {
 
@@ -29,6 +32,16 @@ QString makeRunFolder()
                      QLatin1Char('/');
     QDir().mkpath(folder);
     return folder;
+}
+
+/// The picture as a pixmap; one of more pixels than screens have, reduced by a whole number, so
+/// that a large photo isn't there twice.
+QPixmap pixmapFor(const QImage& image)
+{
+    constexpr double kMostPixels = 1 << 24;
+    const double pixels = double(image.width()) * image.height();
+    const int factor = int(std::ceil(std::sqrt(pixels / kMostPixels)));
+    return QPixmap::fromImage(factor > 1 ? MGraphX::reduced(image, factor) : image);
 }
 
 } // namespace
@@ -57,7 +70,8 @@ BatchDialog::BatchDialog()
     m_previewLabel->setObjectName(QStringLiteral("PreviewLabel"));
     m_previewLabel->setMinimumSize(400, 400);
 
-    const BatchWorker* const worker = m_thread.worker();
+    BatchWorker* const worker = m_thread.worker();
+    worker->awaitPictures();
     connect(worker, &BatchWorker::updateInfo, this, &BatchDialog::slotUpdateInfo);
     connect(worker, &BatchWorker::finished, this, &BatchDialog::slotAccept);
     connect(m_pauseButton, &QPushButton::clicked, this, &BatchDialog::slotPause);
@@ -123,7 +137,8 @@ void BatchDialog::slotAccept()
 void BatchDialog::slotUpdateInfo(const QImage& image, int index, int total)
 {
     m_previewLabel->setText(QString());
-    m_previewLabel->setPixmap(QPixmap::fromImage(image));
+    m_previewLabel->setPixmap(pixmapFor(image));
+    m_thread.worker()->pictureTaken(image);
     m_progressBar->setValue(int(qint64(index) * 100 / total));
     m_infoLabel->setText(
         QStringLiteral("<CENTER><H2>%1 of %2</H2></CENTER>").arg(index + 1).arg(total));

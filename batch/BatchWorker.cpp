@@ -7,11 +7,15 @@
 #include <QDebug>
 #include <QFileInfo>
 #include <QThread>
+#include <utility>
 
 namespace
 {
 enum Numbers { AllNumbers, OddNumbers, EvenNumbers };
-constexpr unsigned long kPausePoll = 500; // milliseconds
+constexpr unsigned long kPausePoll = 500;  // milliseconds
+constexpr unsigned long kPicturesPoll = 5; // milliseconds
+/// Small pictures may pile up to so many bytes, so that nobody waits for the other.
+constexpr qsizetype kMostUnderWay = 1 << 26;
 } // namespace
 
 void BatchWorker::setJob(const QString& format, int quality, bool rename, const QString& newName,
@@ -44,23 +48,37 @@ void BatchWorker::slotDoWork()
     m_jobWaits = false;
     m_stopped = false;
     m_paused = false;
+    m_bytesUnderWay = 0;
     const int total = m_photos.size();
     for (int index = 0; index < total && !m_stopped; ++index) {
         // Deliberate: a stop during a pause still lets the photo in hand through.
         while (m_paused && !m_stopped) {
-            nap();
+            nap(kPausePoll);
         }
-        const QString file = m_photos.at(index).toLocalFile();
-        const QImage image = process(file);
-        emit updateInfo(image, index, total);
-        save(image, resultName(index));
+        processPhoto(index, total);
+        waitForPictures();
     }
     emit finished();
 }
 
-void BatchWorker::nap()
+void BatchWorker::processPhoto(int index, int total)
 {
-    QThread::msleep(kPausePoll);
+    const QImage image = process(m_photos.at(index).toLocalFile());
+    m_bytesUnderWay += m_awaitsPictures ? image.sizeInBytes() : 0;
+    emit updateInfo(image, index, total);
+    save(image, resultName(index));
+}
+
+void BatchWorker::waitForPictures()
+{
+    while (m_bytesUnderWay > kMostUnderWay && !m_stopped) {
+        nap(kPicturesPoll);
+    }
+}
+
+void BatchWorker::nap(unsigned long milliseconds)
+{
+    QThread::msleep(milliseconds);
 }
 
 QImage BatchWorker::process(const QString& file) const
@@ -76,7 +94,7 @@ QImage BatchWorker::process(const QString& file) const
     }
     for (const auto& [name, parameters] : m_operations) {
         if (const Operation* const operation = findOperation(name)) {
-            image = operation->processFromXml(image, parameters);
+            image = operation->processFromXml(std::move(image), parameters);
         }
     }
     if (image.isNull()) {

@@ -33,6 +33,11 @@ public:
     void setPaused(bool paused) { m_paused = paused; }
     /// For a thread that was left before slotDoWork had its turn: the run is over all the same.
     void endUnstartedRun();
+    /// From now on the receiver of updateInfo on another thread tells by pictureTaken what it has
+    /// taken, and the run waits for it before the next photo whenever the pictures under way are
+    /// large. Else a receiver that falls behind would fill the memory with them.
+    void awaitPictures() { m_awaitsPictures = true; }
+    void pictureTaken(const QImage& image) { m_bytesUnderWay -= image.sizeInBytes(); }
 
 public slots:
     /// The run. A photo that can't be read or written, or that the flow leaves nothing of, is
@@ -45,10 +50,12 @@ signals:
     void finished();
 
 protected:
-    /// One round of waiting in a pause.
-    virtual void nap();
+    /// One round of waiting, in a pause or for pictures to be taken.
+    virtual void nap(unsigned long milliseconds);
 
 private:
+    void processPhoto(int index, int total);
+    void waitForPictures();
     QImage process(const QString& file) const;
     QString resultName(int index);
     void save(const QImage& image, const QString& name) const;
@@ -66,4 +73,6 @@ private:
     std::atomic<bool> m_stopped{false};
     std::atomic<bool> m_paused{false};
     bool m_jobWaits = false;
+    bool m_awaitsPictures = false;
+    std::atomic<qsizetype> m_bytesUnderWay{0};
 };

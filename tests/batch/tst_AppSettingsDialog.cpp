@@ -28,15 +28,7 @@ public:
     ComboSlider* quality() { return dialog.findChild<ComboSlider*>(); }
     QLineEdit* newName() { return rename()->findChild<QLineEdit*>(); }
     QCheckBox* open() { return dialog.findChild<QCheckBox*>(); }
-    QGroupBox* rename()
-    {
-        for (QGroupBox* box : dialog.findChildren<QGroupBox*>()) {
-            if (box->isCheckable()) {
-                return box;
-            }
-        }
-        return nullptr;
-    }
+    QGroupBox* rename() { return qobject_cast<QGroupBox*>(numbers()->parentWidget()); }
     void press(const char* text)
     {
         for (QPushButton* button : dialog.findChildren<QPushButton*>()) {

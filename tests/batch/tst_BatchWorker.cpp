@@ -5,13 +5,13 @@
 #include "support/TestMain.h"
 
 #include <atomic>
+#include <functional>
 #include <MGraphX/GraphX.h>
 #include <QBuffer>
 #include <QDir>
 #include <QMWidgets/App.h>
 #include <QMWidgets/ProtocolLog.h>
 #include <QRegularExpression>
-#include <QSet>
 #include <QSignalSpy>
 
 using MGraphX::GraphX;
@@ -33,7 +33,10 @@ struct Job {
                       operations);
     }
 
-    QStringList files() const { return QDir(results.folder()).entryList(QDir::Files, QDir::Name); }
+    QStringList files() const
+    {
+        return QDir(results.folder()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
 
     Photos results;
 };
@@ -54,19 +57,20 @@ template <class Call> QStringList loggedBy(const Call& call)
     return lines.filter(QRegularExpression(QStringLiteral("photo|result")));
 }
 
-/// A worker that is stopped in its third round of waiting.
-class StoppedInPause : public BatchWorker
+/// A worker that does in its third round of waiting, and in each one after, what it was told to.
+class WaitingWorker : public BatchWorker
 {
+public:
+    std::function<void()> m_inThirdNap;
+    int m_naps = 0;
+
 protected:
-    void nap() override
+    void nap(unsigned long) override
     {
-        if (++m_naps == 3) {
-            requestStop();
+        if (++m_naps >= 3) {
+            m_inThirdNap();
         }
     }
-
-private:
-    int m_naps = 0;
 };
 
 } // namespace
@@ -126,91 +130,82 @@ private slots:
         }
     }
 
-    void whatCannotBeReadOrWrittenIsPassedOver()
+    void whatFailsIsPassedOverWithOneLineInTheLog()
     {
         Photos photos;
-        const QUrl deleted = photos.add(QStringLiteral("deleted.png"));
-        QVERIFY(QFile::remove(deleted.toLocalFile()));
-        const QList<QUrl> urls = {photos.add(QStringLiteral("good one.png")),
-                                  deleted,
-                                  photos.addFile(QStringLiteral("empty.png"), QByteArray()),
-                                  photos.addFolder(QStringLiteral("folder")),
-                                  QUrl(QStringLiteral("http://photos.example/remote.png")),
-                                  photos.add(QString::fromUtf8("写真 ż.png")),
-                                  photos.add(QStringLiteral(".png"), QSize(1, 1)),
-                                  photos.add(QStringLiteral("tall.png"), QSize(1, 20000))};
-        Job job;
-        BatchWorker worker;
-        job.giveTo(worker, urls);
-        QSignalSpy info(&worker, &BatchWorker::updateInfo);
-        QSignalSpy finished(&worker, &BatchWorker::finished);
-        worker.slotDoWork();
-        QCOMPARE(info.count(), urls.size());
-        QCOMPARE(info.last().at(1).toInt(), urls.size() - 1);
-        QCOMPARE(finished.count(), 1);
-        const QStringList results =
-            QDir(job.results.folder()).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
-        QCOMPARE(QSet<QString>(results.begin(), results.end()),
-                 QSet<QString>({QStringLiteral("good one.png"), QString::fromUtf8("写真 ż.png"),
-                                QStringLiteral(".png"), QStringLiteral("tall.png")}));
-        QCOMPARE(QImage(job.results.path(QStringLiteral("tall.png"))).size(), QSize(1, 20000));
-    }
-
-    void eachFailureLeavesOneLineInTheLog()
-    {
-        Photos photos;
-        const QImage whole = noise(QSize(60, 40), 1);
-        QBuffer cut;
-        QVERIFY(whole.save(&cut, "PNG"));
-        const QUrl good = photos.add(QStringLiteral("good.png"));
-        const QList<QUrl> urls = {
-            good,
-            photos.addFile(QStringLiteral("bad\n.png"), "no picture"),
-            photos.addFile(QStringLiteral("cut.png"), cut.data().left(20)),
-            QUrl::fromLocalFile(photos.path(QStringLiteral("gone.png"))),
-            photos.add(QStringLiteral("dot.png"), QSize(1, 1)),
-            photos.add(QStringLiteral("taken.png")),
-            good,
-        };
+        QBuffer whole;
+        QVERIFY(noise(QSize(60, 40), 1).save(&whole, "PNG"));
         Job job;
         job.operations = {
             {QStringLiteral("Resize"), QStringLiteral("<P><Mode>0</Mode><Width>50</Width></P>")}};
         job.results.addFolder(QStringLiteral("taken.png"));
+        QList<QUrl> urls = {photos.add(QStringLiteral("good one.png")),
+                            photos.add(QString::fromUtf8("写真 ż.png")),
+                            photos.add(QStringLiteral(".png")),
+                            photos.add(QStringLiteral("tall.png"), QSize(2, 20000))};
+        QStringList expected;
+        const auto addFailing = [&](const QUrl& photo, const char* line) {
+            urls += photo;
+            expected += QStringLiteral("^\\S+ Warning: %1$").arg(QLatin1String(line));
+        };
+        const char* const unread = "Can't read the photo \".*\", .*";
+        addFailing(photos.addFile(QStringLiteral("bad\n.png"), "no picture"),
+                   "Can't read the photo .*bad\\\\n.png\".*");
+        addFailing(photos.addFile(QStringLiteral("cut.png"), whole.data().left(20)), unread);
+        addFailing(photos.addFile(QStringLiteral("empty.png"), QByteArray()), unread);
+        addFailing(QUrl::fromLocalFile(photos.path(QStringLiteral("gone.png"))), unread);
+        addFailing(photos.addFolder(QStringLiteral("folder")), unread);
+        addFailing(QUrl(QStringLiteral("http://photos.example/remote.png")), unread);
+        addFailing(photos.add(QStringLiteral("dot.png"), QSize(1, 1)),
+                   "The flow leaves nothing of the photo .*dot.png\".*");
+        addFailing(photos.add(QStringLiteral("taken.png")),
+                   "Can't write the result .*taken.png\".*");
+
         BatchWorker worker;
         job.giveTo(worker, urls);
         QSignalSpy info(&worker, &BatchWorker::updateInfo);
-        const QStringList lines = loggedBy([&] { worker.slotDoWork(); });
+        QStringList lines = loggedBy([&] { worker.slotDoWork(); });
         QCOMPARE(info.count(), urls.size());
-        const QStringList expected = {
-            "Can't read the photo .*bad\\\\n.png", "Can't read the photo .*cut.png",
-            "Can't read the photo .*gone.png",     "The flow leaves nothing of the photo .*dot.png",
-            "Can't write the result .*taken.png",
-        };
-        QCOMPARE(lines.size(), expected.size());
-        for (int i = 0; i < lines.size(); ++i) {
-            const QRegularExpression line(QStringLiteral("^\\S+ Warning: ") + expected.at(i));
-            QVERIFY2(line.match(lines.at(i)).hasMatch(), qPrintable(lines.at(i)));
-        }
+        QCOMPARE(job.files(), QStringList({".png", "good one.png", "tall.png",
+                                           QString::fromUtf8("写真 ż.png")}));
+        QCOMPARE(QImage(job.results.path(QStringLiteral("tall.png"))).size(), QSize(1, 20000));
 
         job.rename = true;
         job.newName = QStringLiteral("../escaped");
-        job.giveTo(worker, {good});
-        const QStringList escaped = loggedBy([&] { worker.slotDoWork(); });
-        QCOMPARE(escaped.size(), 1);
-        QVERIFY(escaped.first().contains(QStringLiteral("Can't write the result")));
+        job.giveTo(worker, {urls.first()});
+        lines += loggedBy([&] { worker.slotDoWork(); });
+        expected += QStringLiteral("Can't write the result .*/\\.\\./escaped0.png");
         QVERIFY(!QFile::exists(job.results.path(QStringLiteral("../escaped0.png"))));
+        QCOMPARE(lines.size(), expected.size());
+        for (int i = 0; i < lines.size(); ++i) {
+            QVERIFY2(lines.at(i).contains(QRegularExpression(expected.at(i))),
+                     qPrintable(lines.at(i)));
+        }
+    }
+
+    void aStopEndsTheRunBetweenPhotos_data()
+    {
+        QTest::addColumn<bool>("inPause");
+        QTest::newRow("at once") << false;
+        // The photo that waits behind the pause is still let through.
+        QTest::newRow("during a pause") << true;
     }
 
     void aStopEndsTheRunBetweenPhotos()
     {
+        QFETCH(bool, inPause);
         Photos photos;
         Job job;
-        BatchWorker worker;
+        WaitingWorker worker;
         job.giveTo(worker,
                    {photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
                     photos.add(QStringLiteral("c.png"))});
-        connect(&worker, &BatchWorker::updateInfo, &worker, [&worker](const QImage&, int index) {
-            if (index == 1) {
+        worker.m_inThirdNap = [&worker] {
+            worker.requestStop();
+        };
+        connect(&worker, &BatchWorker::updateInfo, &worker, [&](const QImage&, int index) {
+            worker.setPaused(inPause);
+            if (!inPause && index == 1) {
                 worker.requestStop();
             }
         });
@@ -220,17 +215,45 @@ private slots:
         QCOMPARE(finished.count(), 1);
     }
 
-    void aStopDuringAPauseLetsThePhotoInHandThrough()
+    void largePicturesAreTakenOneByOne_data()
     {
+        QTest::addColumn<int>("side");
+        QTest::addColumn<bool>("stopped");
+        QTest::addColumn<int>("naps");
+        QTest::addColumn<int>("files");
+        QTest::newRow("large") << 4200 << false << 4 << 2;
+        QTest::newRow("stopped") << 4200 << true << 3 << 1;
+        QTest::newRow("small") << 300 << false << 0 << 2;
+    }
+
+    void largePicturesAreTakenOneByOne()
+    {
+        QFETCH(int, side);
+        QFETCH(bool, stopped);
         Photos photos;
         Job job;
-        StoppedInPause worker;
-        job.giveTo(worker,
-                   {photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
-                    photos.add(QStringLiteral("c.png"))});
-        connect(&worker, &BatchWorker::updateInfo, &worker, [&worker] { worker.setPaused(true); });
+        job.format = QStringLiteral("JPEG");
+        job.operations = {{QStringLiteral("Resize"),
+                           QStringLiteral("<P><Mode>2</Mode><Width>%1</Width><Height>%1</Height>"
+                                          "</P>")
+                               .arg(side)}};
+        WaitingWorker worker;
+        worker.awaitPictures();
+        QImage underWay;
+        connect(&worker, &BatchWorker::updateInfo, &worker,
+                [&underWay](const QImage& image) { underWay = image; });
+        worker.m_inThirdNap = [&] {
+            if (stopped) {
+                worker.requestStop();
+            } else {
+                worker.pictureTaken(underWay);
+            }
+        };
+        job.giveTo(worker, {photos.add(QStringLiteral("a.png"), QSize(1, 1)),
+                            photos.add(QStringLiteral("b.png"), QSize(1, 1))});
         worker.slotDoWork();
-        QCOMPARE(job.files(), QStringList({"a.png", "b.png"}));
+        QTEST(worker.m_naps, "naps");
+        QTEST(job.files().size(), "files");
     }
 
     void aThreadLeftBeforeTheWorkEndsTheRunAllTheSame()

@@ -9,6 +9,8 @@ class QImage;
 /// folder of its run, whatever the user typed as its name.
 bool liesIn(const QString& folder, const QString& file);
 
-/// Writes a picture to a file, replacing one that is there. A picture that can't be written whole,
-/// as on a full disk, leaves no file. Errors: false; a null image doesn't touch the file.
+/// Writes a picture to a file, replacing one that is there. The file is whole at any moment: the
+/// picture is written beside it and takes its name at the end. One that can't be written whole, as
+/// on a full disk, leaves things as they were. A link is written through, and removed with what it
+/// can't take. Errors: false.
 bool saveResult(const QImage& image, const QString& file, const QByteArray& format, int quality);

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # stress.sh [COUNT [LARGEST_WIDTH [KILLS]]]: a batch of so many photos (1000), among them unreadable,
-# deleted and unwritable ones and one as large as told (30000 by 20000); a batch whose disk fills up;
-# and so many sudden ends (20) in the middle of saving a flow, and one in the middle of a run. Takes
-# minutes and, with the default width, 6 GB of memory. With STRESS_PROGRAM set, that program is run
-# and none built.
+# deleted and unwritable ones and one as large as told (30000 by 20000), and a shorter one whose
+# operations need no second image; a batch whose disk fills up; and so many sudden ends (20) in the
+# middle of saving a flow, and as many in the middle of a run. Takes minutes and, with the default
+# width, 6 GB of memory. With STRESS_PROGRAM set, that program is run and none built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -31,17 +31,14 @@ stress() {
         XDG_CACHE_HOME="$work/cache" XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=offscreen \
         QT_LOGGING_RULES="*.warning=false" nice -n 19 "$STRESS_PROGRAM" "$@"
 }
-# Starts a part and ends it without a word after so many milliseconds, counted from its first line
-# if the part is "save".
+# Starts a part and ends it without a word so many milliseconds after its first line.
 killed_after() {
     local milliseconds=$1 out=$work/out
     shift
     : >"$out"
     stress "$@" >"$out" 2>&1 &
     local job=$!
-    if [ "$1" = save ]; then
-        while kill -0 $job 2>/dev/null && ! grep -q ready "$out"; do sleep 0.05; done
-    fi
+    while kill -0 $job 2>/dev/null && ! grep -q ready "$out"; do sleep 0.05; done
     sleep "$((milliseconds / 1000)).$(printf %03d $((milliseconds % 1000)))"
     kill -KILL $job 2>/dev/null || { echo "ended by itself:"; cat "$out"; return 1; }
     wait $job 2>/dev/null || true
@@ -49,6 +46,7 @@ killed_after() {
 
 echo "A long batch:"
 (stress batch "$count" "$width")
+(stress same-shape 60 "$width")
 
 echo "A full disk:"
 if mount -t tmpfs -o size=1m tmpfs "$pictures" 2>/dev/null; then
@@ -65,5 +63,8 @@ for ((i = 1; i <= kills; ++i)); do
     killed_after $((RANDOM % 400)) save
     (stress check)
 done
-killed_after 700 batch 2000 2000
+for ((i = 1; i <= kills; ++i)); do
+    killed_after $((100 + RANDOM % 500)) batch 200 3000
+    (stress check-results)
+done
 (stress batch 60 800)

@@ -13,9 +13,12 @@ int main(int argc, char** argv)
     setUpApplication(app);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     const QString part = arguments.value(0);
-    if (part == QLatin1String("batch") || part == QLatin1String("full-disk")) {
+    if (QStringList({"batch", "same-shape", "full-disk"}).contains(part)) {
         return stressBatch(arguments.value(1).toInt(), arguments.value(2).toInt(),
-                           part == QLatin1String("full-disk"));
+                           part == QLatin1String("same-shape"), part == QLatin1String("full-disk"));
+    }
+    if (part == QLatin1String("check-results")) {
+        return checkResults();
     }
     if (part == QLatin1String("save")) {
         return saveFlowsForEver();
@@ -23,6 +26,7 @@ int main(int argc, char** argv)
     if (part == QLatin1String("check")) {
         return checkFlows();
     }
-    std::fprintf(stderr, "tessarin_stress batch|full-disk COUNT LARGEST_WIDTH, save, or check\n");
+    std::fprintf(stderr, "tessarin_stress batch|same-shape|full-disk COUNT LARGEST_WIDTH, "
+                         "check-results, save, or check\n");
     return 2;
 }

@@ -5,6 +5,7 @@
 #include "flow/NodesOptionsPanel.h"
 #include "intake/CommonData.h"
 #include "intake/ItemsModel.h"
+#include "ShownText.h"
 #include "support/DropEvents.h"
 #include <QMWidgets/PromoMenuBar.h>
 
@@ -208,8 +209,9 @@ void Stage::withDialogs(const std::function<void()>& open, const QString& what,
     open();
 }
 
-void Stage::chooseEntry(QMenu* menu, const QString& text)
+void Stage::chooseEntry(QMenu* menu, const QString& english)
 {
+    const QString text = shownText(menu, english);
     for (QAction* const action : menu->actions()) {
         if (action->text() != text) {
             continue;
@@ -227,8 +229,9 @@ void Stage::chooseEntry(QMenu* menu, const QString& text)
     check(false, QStringLiteral("the menu has an entry ") + text);
 }
 
-void Stage::chooseItem(QComboBox* box, const QString& text)
+void Stage::chooseItem(QComboBox* box, const QString& english)
 {
+    const QString text = shownText(box, english);
     const int row = box ? box->findText(text) : -1;
     if (!check(row >= 0, QStringLiteral("there is a choice ") + text)) {
         return;
@@ -245,6 +248,18 @@ void Stage::chooseItem(QComboBox* box, const QString& text)
     press(list, Qt::Key_Return);
     waitFor([box, list, &text] { return !list->isVisible() && box->currentText() == text; },
             QStringLiteral("the choice of ") + text);
+}
+
+void Stage::clickButton(QWidget* dialog, const QString& english)
+{
+    for (QPushButton* const button : dialog->findChildren<QPushButton*>()) {
+        if (button->isVisible() && button->text() == shownText(button, english)) {
+            click(button);
+            return;
+        }
+    }
+    check(false, QStringLiteral("there is a button ") + english);
+    dialog->close();
 }
 
 void Stage::shoot(const QString& name, QWidget* widget)

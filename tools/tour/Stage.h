@@ -83,8 +83,12 @@ public:
     /// The same for dialogs that come one after the other out of `open`, with an act for each.
     void withDialogs(const std::function<void()>& open, const QString& what,
                      std::initializer_list<DialogAct> acts);
-    void chooseEntry(QMenu* menu, const QString& text);
-    void chooseItem(QComboBox* box, const QString& text);
+    // What is pressed or chosen by its text is told in English, whatever the language.
+    void chooseEntry(QMenu* menu, const QString& english);
+    void chooseItem(QComboBox* box, const QString& english);
+    /// Clicks the button of a dialog that shows the text and can be seen. A dialog that has none is
+    /// closed, since nothing else would end it.
+    void clickButton(QWidget* dialog, const QString& english);
 
     void shoot(const QString& name, QWidget* widget = nullptr);
     void shootTogether(const QString& name, const QWidgetList& windows);
@@ -100,7 +104,7 @@ public:
     void removeOperation();
     /// Drags a slider's handle near a value; `onTheWay` is called while it is held there.
     void dragSlider(QSlider* slider, int value, const std::function<void()>& onTheWay);
-    /// Drags the slider with that caption, and goes the last steps by key.
+    /// Drags the slider with that English caption, and goes the last steps by key.
     void setSlider(const QString& caption, int value);
     /// What the flow made of the photo last.
     const QImage& result() const { return m_result; }

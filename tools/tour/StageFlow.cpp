@@ -2,6 +2,7 @@
 
 #include "flow/BaseNode.h"
 #include "flow/NodesTabBar.h"
+#include "ShownText.h"
 
 #include <QGroupBox>
 #include <QPushButton>
@@ -25,6 +26,7 @@ QPoint handlePlace(const QSlider* slider, int value)
     option.tickInterval = slider->tickInterval();
     option.sliderPosition = value;
     option.sliderValue = value;
+    option.upsideDown = slider->invertedAppearance() != slider->isRightToLeft();
     option.subControls = QStyle::SC_SliderHandle | QStyle::SC_SliderGroove;
     return slider->style()
         ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider)
@@ -76,7 +78,7 @@ BaseNode* shownNode(const QWidget* page)
 QSlider* shownSlider(const QWidget* page, const QString& caption)
 {
     for (QSlider* const slider : page->findChildren<QSlider*>()) {
-        if (slider->isVisible() && slider->accessibleName() == caption) {
+        if (slider->isVisible() && slider->accessibleName() == shownText(slider, caption)) {
             return slider;
         }
     }
@@ -173,8 +175,9 @@ void Stage::setSlider(const QString& caption, int value)
     }
     dragSlider(slider, value, [] {});
     const int near = nearness(slider);
-    const auto forth = slider->invertedControls() ? Qt::Key_Left : Qt::Key_Right;
-    const auto back = slider->invertedControls() ? Qt::Key_Right : Qt::Key_Left;
+    const bool toTheLeft = slider->invertedControls() != slider->isRightToLeft();
+    const auto forth = toTheLeft ? Qt::Key_Left : Qt::Key_Right;
+    const auto back = toTheLeft ? Qt::Key_Right : Qt::Key_Left;
     for (int i = 0; i < near && slider->value() != value; ++i) {
         press(slider, slider->value() < value ? forth : back);
     }

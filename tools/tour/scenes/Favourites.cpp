@@ -29,17 +29,6 @@ void choose(Stage& stage, const QString& text)
                    [&stage, &text](QMenu* menu) { stage.chooseEntry(menu, text); });
 }
 
-void clickButton(Stage& stage, QWidget* dialog, const QString& caption)
-{
-    for (QPushButton* const button : dialog->findChildren<QPushButton*>()) {
-        if (button->text() == caption) {
-            stage.click(button);
-            return;
-        }
-    }
-    stage.check(false, QStringLiteral("there is a button ") + caption);
-}
-
 /// Types the name and photographs the dialog.
 void typeName(Stage& stage, QWidget* dialog, const QString& picture)
 {
@@ -49,7 +38,7 @@ void typeName(Stage& stage, QWidget* dialog, const QString& picture)
     }
     stage.shoot(picture, dialog);
     stage.shootTogether(picture + QStringLiteral("-page"), {stage.page(), dialog});
-    clickButton(stage, dialog, QStringLiteral("Ok"));
+    stage.clickButton(dialog, QStringLiteral("Ok"));
 }
 
 /// Photographs a question and answers it.
@@ -57,7 +46,7 @@ Stage::DialogAct answer(Stage& stage, const QString& picture, const QString& cap
 {
     return [&stage, picture, caption](QWidget* dialog) {
         stage.shoot(picture, dialog);
-        clickButton(stage, dialog, caption);
+        stage.clickButton(dialog, caption);
     };
 }
 
@@ -118,7 +107,7 @@ void deleteFlow(Stage& stage)
              }
              stage.shoot(QStringLiteral("delete"), dialog);
              stage.shootTogether(QStringLiteral("delete-page"), {stage.page(), dialog});
-             clickButton(stage, dialog, QStringLiteral("&Delete"));
+             stage.clickButton(dialog, QStringLiteral("&Delete"));
          },
          answer(stage, QStringLiteral("delete-question"), QStringLiteral("Yes"))});
     stage.check(!isSaved(), QStringLiteral("a deleted flow is gone"));

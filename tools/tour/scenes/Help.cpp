@@ -1,5 +1,4 @@
 #include "scenes/Scenes.h"
-#include "scenes/SettingsSteps.h"
 #include "Stage.h"
 
 #include <QMWidgets/HelpViewArea.h>
@@ -41,7 +40,7 @@ void showHelp(Stage& stage)
             stage.click(fifth);
             stage.check(fifth && fifth->isChecked(), QStringLiteral("a number shows its slide"));
             stage.shoot(QStringLiteral("chosen"), dialog);
-            endDialog(stage, dialog, QStringLiteral("&Never show on start"));
+            stage.clickButton(dialog, QStringLiteral("&Never show on start"));
             closed = true;
         }});
     stage.check(isNever(), QStringLiteral("the help stays away from now on"));
@@ -52,6 +51,6 @@ void showHelp(Stage& stage)
                          stage.check(fifth && fifth->isChecked(),
                                      QStringLiteral("the help goes on from the last slide"));
                          stage.shoot(QStringLiteral("by-hand"), dialog);
-                         endDialog(stage, dialog, QStringLiteral("&Close"));
+                         stage.clickButton(dialog, QStringLiteral("&Close"));
                      });
 }

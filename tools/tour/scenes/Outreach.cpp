@@ -1,5 +1,4 @@
 #include "scenes/Scenes.h"
-#include "scenes/SettingsSteps.h"
 #include "Stage.h"
 
 #include <QMenu>
@@ -26,11 +25,11 @@ void showAbout(Stage& stage, QWidget* dialog)
     stage.shoot(QStringLiteral("about"), dialog);
     stage.shootTogether(QStringLiteral("about-page"), {stage.page(), dialog});
     const QSize size = dialog->size();
-    endDialog(stage, dialog, QStringLiteral("&Legal Notices"));
+    stage.clickButton(dialog, QStringLiteral("&Legal Notices"));
     stage.shoot(QStringLiteral("legal"), dialog);
     stage.check(dialog->size() == size, QStringLiteral("the notices change no size"));
-    endDialog(stage, dialog, QStringLiteral("&Hide"));
-    endDialog(stage, dialog, QStringLiteral("&Ok"));
+    stage.clickButton(dialog, QStringLiteral("&Hide"));
+    stage.clickButton(dialog, QStringLiteral("&Ok"));
 }
 
 } // namespace
@@ -43,13 +42,13 @@ void showAppDialogs(Stage& stage)
                          stage.shoot(QStringLiteral("share"), dialog);
                          pressSocial(stage, dialog, "EmailShareButton", "mailto:");
                          stage.shoot(QStringLiteral("shared"), dialog);
-                         endDialog(stage, dialog, QStringLiteral("&Close"));
+                         stage.clickButton(dialog, QStringLiteral("&Close"));
                      });
     stage.withDialog(stage.find<QPushButton>(QStringLiteral("JoinButton")),
                      QStringLiteral("the join dialog"), [&stage](QWidget* dialog) {
                          stage.shoot(QStringLiteral("join"), dialog);
                          pressSocial(stage, dialog, "TwitterJoinButton", "social=twitter");
-                         endDialog(stage, dialog, QStringLiteral("&Close"));
+                         stage.clickButton(dialog, QStringLiteral("&Close"));
                      });
     stage.withDialogs(
         [&stage] {

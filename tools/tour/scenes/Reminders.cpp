@@ -1,5 +1,4 @@
 #include "scenes/Scenes.h"
-#include "scenes/SettingsSteps.h"
 #include "Stage.h"
 
 namespace
@@ -29,12 +28,7 @@ void showForm(Stage& stage, const Form& form)
         QLatin1String(form.picture), {[&](QWidget* dialog) {
             stage.shoot(QLatin1String(form.picture), dialog);
             stage.shootTogether(form.picture + QStringLiteral("-page"), {stage.page(), dialog});
-            for (QWidget* const part : dialog->findChildren<QWidget*>()) {
-                // Two buttons have that text, and one is hidden.
-                if (part->isVisible() && part->property("text") == QLatin1String(form.answer)) {
-                    stage.click(part);
-                }
-            }
+            stage.clickButton(dialog, QLatin1String(form.answer));
             closed = true;
         }});
 }

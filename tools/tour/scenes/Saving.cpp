@@ -2,6 +2,7 @@
 #include "Results.h"
 #include "scenes/Scenes.h"
 #include "scenes/SettingsSteps.h"
+#include "ShownText.h"
 #include "Stage.h"
 
 #include <QComboBox>
@@ -29,7 +30,8 @@ void pauseAndResume(Stage& stage, QWidget* dialog)
     // Pictures take their time, so the batch is paused before any is taken.
     stage.waitFor([progress] { return progress->value() > 0; }, QStringLiteral("the batch runs"));
     stage.click(pause);
-    stage.check(pause->text() == QLatin1String("Resume"), QStringLiteral("the button resumes"));
+    stage.check(pause->text() == shownText(pause, QStringLiteral("Resume")),
+                QStringLiteral("the button resumes"));
 
     // The photo in hand still gets through.
     int last = -1;
@@ -84,7 +86,7 @@ void saveResults(Stage& stage)
     withSettings(stage, [&stage](QWidget* dialog) {
         stage.chooseItem(boxWith(dialog, QStringLiteral("JPEG")), QStringLiteral("JPEG"));
         setRenaming(stage, dialog, QString());
-        endDialog(stage, dialog, QStringLiteral("Ok"));
+        stage.clickButton(dialog, QStringLiteral("Ok"));
     });
     stage.shoot(QStringLiteral("flow"));
 
@@ -105,7 +107,7 @@ void saveRenamed(Stage& stage)
         stage.chooseItem(boxWith(dialog, QStringLiteral("PNG")), QStringLiteral("BMP"));
         setRenaming(stage, dialog, QStringLiteral("Holiday "));
         stage.chooseItem(boxWith(dialog, QStringLiteral("Odd")), QStringLiteral("Odd"));
-        endDialog(stage, dialog, QStringLiteral("Ok"));
+        stage.clickButton(dialog, QStringLiteral("Ok"));
     });
     const QString folder = runBatch(stage, [](QWidget*) {});
     QVector<ExpectedResult> expected;

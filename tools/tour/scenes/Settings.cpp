@@ -1,6 +1,7 @@
 #include "batch/AppSettingsDialog.h"
 #include "scenes/Scenes.h"
 #include "scenes/SettingsSteps.h"
+#include "ShownText.h"
 #include "Stage.h"
 
 #include <QAbstractItemView>
@@ -15,22 +16,11 @@
 QComboBox* boxWith(const QWidget* dialog, const QString& item)
 {
     for (QComboBox* const box : dialog->findChildren<QComboBox*>()) {
-        if (box->findText(item) >= 0) {
+        if (box->findText(shownText(box, item)) >= 0) {
             return box;
         }
     }
     return nullptr;
-}
-
-void endDialog(Stage& stage, const QWidget* dialog, const QString& caption)
-{
-    for (QPushButton* const button : dialog->findChildren<QPushButton*>()) {
-        if (button->text() == caption) {
-            stage.click(button);
-            return;
-        }
-    }
-    stage.check(false, QStringLiteral("there is a button ") + caption);
 }
 
 void withSettings(Stage& stage, const std::function<void(QWidget* dialog)>& act)
@@ -82,7 +72,7 @@ void chooseSettings(Stage& stage)
         stage.chooseItem(boxWith(dialog, QStringLiteral("Odd")), QStringLiteral("Odd"));
         stage.shoot(QStringLiteral("renaming"), dialog);
         stage.shootTogether(QStringLiteral("page"), {stage.page(), dialog});
-        endDialog(stage, dialog, QStringLiteral("Ok"));
+        stage.clickButton(dialog, QStringLiteral("Ok"));
     });
     stage.check(AppSettingsDialog::keyFormat() == QLatin1String("PNG") &&
                     AppSettingsDialog::keyRename() && AppSettingsDialog::keyNumbers() == 1 &&

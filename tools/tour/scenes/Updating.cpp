@@ -1,5 +1,4 @@
 #include "scenes/Scenes.h"
-#include "scenes/SettingsSteps.h"
 #include "Stage.h"
 #include "support/HttpServer.h"
 
@@ -39,7 +38,7 @@ void showNewsAtStart(Stage& stage)
         [] { App::app()->nop_cuos(); }, QStringLiteral("the news at the start"),
         {[&stage](QWidget* dialog) {
             stage.shootTogether(QStringLiteral("start"), {stage.dropWindow(), dialog});
-            endDialog(stage, dialog, QStringLiteral("No"));
+            stage.clickButton(dialog, QStringLiteral("No"));
         }});
 }
 
@@ -68,7 +67,7 @@ void checkUpdates(Stage& stage)
         stage.shoot(QStringLiteral("newer"), dialog);
         stage.shootTogether(QStringLiteral("page"), {stage.page(), dialog});
         switchCheckAtStart(stage, dialog);
-        endDialog(stage, dialog, QStringLiteral("Yes"));
+        stage.clickButton(dialog, QStringLiteral("Yes"));
     });
     stage.check(stage.urls().urls().size() == opened + 1,
                 QStringLiteral("the updates web page opens"));
@@ -76,13 +75,13 @@ void checkUpdates(Stage& stage)
     server.setAnswer(HttpServer::ok("!date!;;;2001-01-01"));
     withCheck(stage, QStringLiteral("the latest version"), [&stage](QWidget* dialog) {
         stage.shoot(QStringLiteral("latest"), dialog);
-        endDialog(stage, dialog, QStringLiteral("No"));
+        stage.clickButton(dialog, QStringLiteral("No"));
     });
 
     App::app()->setUpdateService({{HttpServer::refusingHost()}});
     withCheck(stage, QStringLiteral("the error"), [&stage](QWidget* dialog) {
         stage.shoot(QStringLiteral("error"), dialog);
-        endDialog(stage, dialog, QStringLiteral("Ok"));
+        stage.clickButton(dialog, QStringLiteral("Ok"));
     });
     App::app()->setUpdateService({});
 }

@@ -18,8 +18,8 @@
 namespace
 {
 
-constexpr int kSaveEntry = 1;   // of the flows' menu; its text is another in each language
-constexpr int kGrowTime = 1200; // milliseconds, with some to spare
+constexpr int kSaveEntry = 1;                 // of the flows' menu
+constexpr int kGrowTime = 1200;               // milliseconds, with some to spare
 constexpr QRect kLargeView(24, 92, 687, 440); // on the page, below the button that opens it
 
 /// Lays a button's menu upon it, with an entry in hand, as on a large screen: the one at hand may
@@ -75,7 +75,7 @@ void keepFlow(SlideSet& set)
     Stage& stage = set.stage;
     const auto choose = [&stage] {
         stage.withMenu(flowsButton(stage), [&stage](QMenu* menu) {
-            stage.chooseEntry(menu, menu->actions().at(kSaveEntry)->text());
+            stage.chooseEntry(menu, QStringLiteral("&Save..."));
         });
     };
     stage.withDialogs(choose, QStringLiteral("the name of the flow"), {[&](QWidget* dialog) {

@@ -1,15 +1,13 @@
 #include "flow/NodesOptionsPanel.h"
 
 #include "flow/BaseNode.h"
+#include "flow/InitLabel.h"
 #include "flow/Operations.h"
 #include "intake/CommonData.h"
 #include <MGraphX/OpaqueScaling.h>
 #include <QMWidgets/App.h>
-#include <QMWidgets/Label.h>
-#include <QMWidgets/MovieLabel.h>
 
 #include <QCoreApplication>
-#include <QPixmap>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -19,27 +17,11 @@ namespace
 /// Width of a preview, in device-independent pixels.
 constexpr int kPreviewWidth = 360;
 
-QMWidgets::Label* makeInitLabel()
-{
-    auto* label = new QMWidgets::Label(nullptr);
-    label->setPixmap(QPixmap(QStringLiteral(":/initlabel_en.png")));
-
-    // It points down at the button that adds a node.
-    auto* arrow = new QMWidgets::MovieLabel(QStringLiteral(":/arrow.gif"), label);
-    arrow->setDuration(10000);
-    arrow->setFixedSize(100, 100);
-    auto* layout = new QVBoxLayout(label);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(arrow, 0, Qt::AlignLeft | Qt::AlignBottom);
-    return label;
-}
-
 } // namespace
 
 NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
     : QFrame(parent),
-      m_initLabel(makeInitLabel()),
+      m_initLabel(new InitLabel(nullptr)),
       m_stack(new QStackedWidget(this))
 {
     setMinimumHeight(175);

@@ -1,4 +1,4 @@
-"""The two animations, frame by frame.
+"""The animations, frame by frame.
 
 GIF knows no half transparency, so each frame's soft edge is mixed with the
 colour it will lie on, and cut where little of the drawing is left.
@@ -23,6 +23,11 @@ def arrow(step):
         fill="url(#lamp)", stroke=COAL, stroke_width=4, stroke_linejoin="round",
     )
     return group(body, transform=f"translate({-14 - 0.35 * dip:.2f} {dip + 6:.2f})")
+
+
+def arrow_from_right(step):
+    """The same for readers from the right, whose add button is at the right."""
+    return group(arrow(step), transform="translate(100 0) scale(-1 1)")
 
 
 def loading(step):
@@ -56,10 +61,11 @@ def assemble(target, size, frames, delay, matte):
 
 
 def render(resources, wanted):
-    """Delays are in hundredths of a second; both loops last about a second."""
-    if not wanted or "arrow" in wanted:
-        frames = [arrow(step) for step in range(ARROW_FRAMES)]
-        assemble(resources / "arrow.gif", 100, frames, 6, "#404040")
+    """Delays are in hundredths of a second; all loops last about a second."""
+    for name, draw in (("arrow", arrow), ("arrow_rtl", arrow_from_right)):
+        if not wanted or name in wanted:
+            frames = [draw(step) for step in range(ARROW_FRAMES)]
+            assemble(resources / f"{name}.gif", 100, frames, 6, "#404040")
     if not wanted or "loading_image" in wanted:
         frames = [loading(step) for step in range(LOADING_FRAMES)]
         assemble(resources / "loading_image.gif", 96, frames, 8, "#303030")

@@ -48,28 +48,67 @@ def small_node(draw, x, y, size):
     return group(draw(), transform=f"translate({x} {y}) scale({size / 64})")
 
 
-def first_steps():
-    """The options panel while no operation exists; its lower left corner is kept free for the
-    moving arrow that points at the add button."""
-    chain = []
+class Reading:
+    """Lays a picture of the given width out for readers from the left or from the right."""
+
+    def __init__(self, width, from_right):
+        self.width = width
+        self.from_right = from_right
+
+    def place(self, x, width=0):
+        """Where a thing of that width, placed from the left, comes to stand."""
+        return self.width - x - width if self.from_right else x
+
+    def text(self, x, y, size, content, **values):
+        if self.from_right:
+            values["direction"] = "rtl"
+        return text(self.place(x), y, size, content, **values)
+
+    def turned(self, *parts):
+        """Lines that tell a direction."""
+        if not self.from_right:
+            return group(*parts)
+        return group(*parts, transform=f"translate({self.width} 0) scale(-1 1)")
+
+
+def first_steps(reading, title, lines, captions):
+    """The options panel while no operation exists; the lower corner where reading starts is kept
+    free for the moving arrow that points at the add button."""
+    parts = [
+        reading.turned(line("M124 62C94 62 70 68 56 89", ACCENT, 3, stroke_dasharray="1 8")),
+        reading.text(136, 72, 28, title, font_weight="bold"),
+    ]
+    for y, content in zip((106, 128), lines):
+        parts.append(reading.text(137, y, 15, content, fill="#dedede"))
     x = 452
-    for draw in (nodes.crop, nodes.rotate, nodes.watermark):
-        chain.append(rect(x, 46, 72, 72, 10, fill="url(#night)", stroke="#7a7a7a", stroke_width=1.5))
-        chain.append(small_node(draw, x + 12, 58, 48))
-        chain.append(line(f"M{x + 78} 82H{x + 86}M{x + 83} 78L{x + 87} 82L{x + 83} 86", DIM, 2))
+    for draw, caption in zip((nodes.crop, nodes.rotate, nodes.watermark), captions):
+        if x > 452:
+            arrow = line(f"M{x - 14} 82H{x - 6}M{x - 9} 78L{x - 5} 82L{x - 9} 86", DIM, 2)
+            parts.append(reading.turned(arrow))
+        left = reading.place(x, 72)
+        parts.append(rect(left, 46, 72, 72, 10, fill="url(#night)", stroke="#7a7a7a",
+                          stroke_width=1.5))
+        parts.append(small_node(draw, left + 12, 58, 48))
+        parts.append(reading.text(x + 36, 142, 12, caption, fill="#dedede", text_anchor="middle"))
         x += 92
-    chain.pop()
-    return "".join(
-        [
-            line("M124 62C94 62 70 68 56 89", ACCENT, 3, stroke_dasharray="1 8"),
-            text(136, 72, 28, "Add an operation", font_weight="bold"),
-            text(137, 106, 15, "Press the round + and pick a step.", fill="#dedede"),
-            text(137, 128, 15, "Steps run from left to right.", fill="#dedede"),
-            *chain,
-            text(452, 142, 12, "crop", fill="#dedede", text_anchor="middle", dx=36),
-            text(544, 142, 12, "rotate", fill="#dedede", text_anchor="middle", dx=36),
-            text(636, 142, 12, "watermark", fill="#dedede", text_anchor="middle", dx=36),
-        ]
+    return "".join(parts)
+
+
+def first_steps_in_english():
+    return first_steps(
+        Reading(735, from_right=False),
+        "Add an operation",
+        ("Press the round + and pick a step.", "Steps run from left to right."),
+        ("crop", "rotate", "watermark"),
+    )
+
+
+def first_steps_in_arabic():
+    return first_steps(
+        Reading(735, from_right=True),
+        "أضف عملية",
+        ("اضغط زر + المستدير واختر خطوة.", "تسير الخطوات من اليمين إلى اليسار."),
+        ("قص", "تدوير", "علامة مائية"),
     )
 
 
@@ -114,7 +153,8 @@ def open_files():
 
 def pictures():
     yield "droparea", 360, 360, drop_area()
-    yield "initlabel_en", 735, 175, first_steps()
+    yield "initlabel_en", 735, 175, first_steps_in_english()
+    yield "initlabel_ar", 735, 175, first_steps_in_arabic()
     yield "openfiles", 24, 24, open_files()
     yield "backgroundbar", 735, 45, menu_bar()
     yield from twins("panelbackground", 8, 8, panel_tile())

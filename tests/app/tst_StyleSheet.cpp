@@ -38,9 +38,9 @@ const struct OtherPictures {
     {{128, 128}, true, "update_available.png update_not_available.png"},
     // Scaled by what shows them.
     {{720, 720}, false, "DisabledNode.png droparea.png"},
-    {{1470, 350}, false, "initlabel_en.png"},
+    {{1470, 350}, false, "initlabel_??.png"},
     {{1200, 600}, false, "corvane.png"},
-    {{200, 200}, false, "arrow.gif"},
+    {{200, 200}, false, "arrow.gif arrow_rtl.gif"},
     {{192, 192}, false, "loading_image.gif"},
     // Icons of buttons and menus.
     {{48, 48},

@@ -17,6 +17,16 @@ MovieLabel::MovieLabel(const QString& fileName, QWidget* parent)
     setMovie(&m_movie);
 }
 
+void MovieLabel::setFileName(const QString& fileName)
+{
+    const bool plays = m_movie.state() == QMovie::Running;
+    m_movie.stop();
+    m_movie.setFileName(fileName);
+    if (plays) {
+        m_movie.start();
+    }
+}
+
 void MovieLabel::setSpeed(int percent)
 {
     m_movie.setSpeed(percent);

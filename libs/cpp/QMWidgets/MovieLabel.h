@@ -15,6 +15,8 @@ class MovieLabel : public QLabel
 public:
     explicit MovieLabel(const QString& fileName, QWidget* parent = nullptr);
 
+    /// Goes on with another picture, from its start if the label plays.
+    void setFileName(const QString& fileName);
     /// Units: percent of the picture's own speed.
     void setSpeed(int percent);
     /// How long to play, in milliseconds; the last frame then stays. Counted from each show, and an

@@ -31,6 +31,8 @@ RTTNode::RTTNode(const QString& name, QWidget* parent)
     m_leftButton->setFlat(true);
 
     auto* layout = new QHBoxLayout;
+    // Left and right are those of the photo, whichever way the interface is read.
+    layout->setDirection(isRightToLeft() ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_leftButton);

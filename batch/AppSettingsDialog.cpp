@@ -2,6 +2,7 @@
 
 #include "flow/ComboSlider.h"
 #include <QMWidgets/App.h>
+#include <QMWidgets/GroupBox.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -113,7 +114,7 @@ QGroupBox* AppSettingsDialog::makeFormatBox()
 QGroupBox* AppSettingsDialog::makeRenameBox()
 {
     m_numbersBox->addItems({tr("All"), tr("Odd"), tr("Even")});
-    auto* box = new QGroupBox(tr("Rename"), this);
+    auto* box = new QMWidgets::GroupBox(tr("Rename"), this);
     box->setCheckable(true);
     auto* form = new QFormLayout(box);
     form->addRow(tr("New Name:"), m_newNameEdit);

@@ -2,11 +2,11 @@
 
 #include "flow/Operations.h"
 #include "flow/ParameterReader.h"
+#include <QMWidgets/GroupBox.h>
 #include <QMWidgets/Label.h>
 
 #include <QDomDocument>
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 
 namespace
@@ -18,7 +18,7 @@ const QLatin1String kActiveTag("Active");
 BaseNode::BaseNode(const QString& name, QWidget* parent)
     : QFrame(parent),
       m_disabledImage(QStringLiteral(":/DisabledNode.png")),
-      m_groupBox(new QGroupBox(name, this)),
+      m_groupBox(new QMWidgets::GroupBox(name, this)),
       m_iconLabel(new QMWidgets::Label(this)),
       m_name(name),
       m_optionsLayout(new QVBoxLayout(m_groupBox))

@@ -17,6 +17,7 @@ constexpr int kTickGap = 3; ///< between groove and ticks
 constexpr int kMenuIcon = 24;
 constexpr int kMessageSign = 48;
 constexpr int kMenuMaskRadius = 4; ///< less than the sheet's radius of 5
+constexpr int kCaptionGap = 4;     ///< between an icon and the text left of it
 constexpr int kCrowded = 5;        ///< ticks nearer than this run into a bar
 
 bool isHorizontal(const QStyleOptionSlider* slider)
@@ -147,6 +148,21 @@ QRect DeskStyle::subControlRect(ComplexControl control, const QStyleOptionComple
         }
     }
     return QProxyStyle::subControlRect(control, option, subControl, widget);
+}
+
+void DeskStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                             const QPalette& palette, bool enabled, const QString& text,
+                             QPalette::ColorRole textRole) const
+{
+    // A sheet's button beside whose icon a text ends at the right means the right of the screen,
+    // which the painter would mirror once more.
+    constexpr int kOfButton = Qt::AlignRight | Qt::TextShowMnemonic;
+    if ((flags & kOfButton) == kOfButton) {
+        QProxyStyle::drawItemText(painter, rect.translated(-kCaptionGap, 0),
+                                  flags | Qt::AlignAbsolute, palette, enabled, text, textRole);
+        return;
+    }
+    QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, textRole);
 }
 
 QPixmap DeskStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,

@@ -41,6 +41,10 @@ void setUpApplication(QMWidgets::App& app)
     QCoreApplication::setOrganizationDomain(MakerSite::organizationDomain());
     QApplication::setStyle(new DeskStyle); // the application owns it
     app.setStyleSheet(applicationStyleSheet());
+    // Some rules are for readers from the right only. The widgets hear of it after the signal.
+    QObject::connect(
+        &app, &QGuiApplication::layoutDirectionChanged, &app,
+        [&app] { app.setStyleSheet(app.styleSheet()); }, Qt::QueuedConnection);
     app.setupWebLinks();
     if (app.firstRun()) {
         // Without it the program runs just as well.

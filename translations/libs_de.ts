@@ -432,11 +432,11 @@
     </message>
     <message>
         <source>If you like&lt;br&gt;&quot;</source>
-        <translation>Wenn Ihnen&lt;br&gt;&quot;</translation>
+        <translation>Gefällt Ihnen&lt;br&gt;&quot;</translation>
     </message>
     <message>
         <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>
-        <translation>&lt;br&gt;gefällt, empfehlen Sie es bitte weiter.&lt;br&gt;Danke!</translation>
+        <translation>&lt;br&gt;dann empfehlen Sie es bitte weiter.&lt;br&gt;Danke!</translation>
     </message>
 </context>
 <context>

@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>If you like&lt;br&gt;&quot;</source>
-        <translation>마음에 드신다면&lt;br&gt;&quot;</translation>
+        <translation>즐겨 쓰시는&lt;br&gt;&quot;</translation>
     </message>
     <message>
         <source>&lt;br&gt;please share it with your friends.&lt;br&gt;Thanks!</source>

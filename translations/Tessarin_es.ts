@@ -499,7 +499,7 @@ Overwrite?</source>
     </message>
     <message>
         <source>Text color:</source>
-        <translation>Color del texto:</translation>
+        <translation>Color:</translation>
     </message>
     <message>
         <source>Background:</source>

@@ -499,7 +499,7 @@ La remplacer ?</translation>
     </message>
     <message>
         <source>Text color:</source>
-        <translation>Couleur du texte :</translation>
+        <translation>Couleur :</translation>
     </message>
     <message>
         <source>Background:</source>

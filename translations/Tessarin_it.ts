@@ -499,7 +499,7 @@ Sovrascriverla?</translation>
     </message>
     <message>
         <source>Text color:</source>
-        <translation>Colore del testo:</translation>
+        <translation>Colore:</translation>
     </message>
     <message>
         <source>Background:</source>

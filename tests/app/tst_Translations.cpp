@@ -1,4 +1,8 @@
 #include "app/MainPage.h"
+#include "app/Startup.h"
+#include "flow/BaseNode.h"
+#include "flow/NodesOptionsPanel.h"
+#include "flow/Operations.h"
 #include "support/TestMain.h"
 #include <QMWidgets/App.h>
 #include <QMWidgets/TranslationsManager.h>
@@ -142,6 +146,36 @@ private slots:
                 QVERIFY2(speaks("QFileDialog", "Recent Places"), qPrintable(code));
             }
         }
+    }
+
+    void operationPagesFitTheirPlace_data()
+    {
+        QTest::addColumn<QString>("code");
+        for (const QString& code : TranslationsManager::translatedCodes()) {
+            QTest::newRow(qPrintable(code)) << code;
+        }
+    }
+
+    void operationPagesFitTheirPlace()
+    {
+        QFETCH(QString, code);
+        setUpApplication(*App::app());
+        TranslationsManager::instance()->setLanguage(code);
+        MainPage page(nullptr);
+        auto* panel = page.findChild<NodesOptionsPanel*>();
+        for (const Operation& operation : operations()) {
+            panel->createNode(operation.name);
+        }
+        page.show();
+        for (BaseNode* node : page.findChildren<BaseNode*>()) {
+            panel->slotShowOptions(node);
+            QCoreApplication::processEvents();
+            const int spare = node->width() - node->minimumSizeHint().width();
+            QVERIFY2(
+                spare >= 0,
+                qPrintable(QStringLiteral("%1 lacks %2 pixels").arg(node->name()).arg(-spare)));
+        }
+        qApp->setStyleSheet(QString());
     }
 
     void aStandingWindowFollows()

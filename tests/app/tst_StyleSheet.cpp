@@ -93,8 +93,8 @@ int pixels(const QString& length)
 /// The size that a rule gives to its picture, or the one that the code gives to the button.
 QSize sizeOf(const SheetRules& rules, const SheetRules::Rule& rule)
 {
-    static const QRegularExpression states(
-        QStringLiteral(":(hover|pressed|checked|unchecked|disabled|off)\\b"));
+    static const QRegularExpression states(QStringLiteral(
+        ":(hover|pressed|checked|unchecked|disabled|off)\\b|\\[layoutDirection=.*\\]"));
     const QString named = QString(rule.selector).remove(states);
     for (const char* const prefix : {"", "min-"}) {
         const QLatin1String start(prefix);

@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/build.sh release
+scripts/build.sh release Tessarin tessarin_tour
 # The program looks for "Resources/" in the folder it is started from: here.
 if [ "$(uname)" = Darwin ] || [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     program=build/release/app/Tessarin

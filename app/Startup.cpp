@@ -37,7 +37,7 @@ void prepareProcess()
 void setUpApplication(QMWidgets::App& app)
 {
     app.setPromotedAppUrl(MakerSite::page(QStringLiteral("/apps/tessarin/")));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TESSARIN_VERSION));
     QCoreApplication::setOrganizationDomain(MakerSite::organizationDomain());
     QApplication::setStyle(new DeskStyle); // the application owns it
     app.setStyleSheet(applicationStyleSheet());

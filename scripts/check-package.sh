@@ -13,7 +13,7 @@ if ! command -v dpkg >/dev/null 2>&1; then
     echo "check-package: skipped, since this system knows no Debian packages"
     exit 0
 fi
-[ "${TESSARIN_NO_INSTALL:-0}" = 1 ] || scripts/install-dependencies.sh package
+[ "${TESSARIN_NO_INSTALL:-0}" = 1 ] || scripts/install-dependencies.sh deb package
 scripts/build.sh release >/dev/null
 packages=build/release/packages
 rm -rf "$packages"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs what is missing to build and run Tessarin. Asks nothing; uses sudo only where it has to.
 # Arguments: names of further sets, of "format" (the formatter), "clang" (a second compiler, with what
-# it needs for sanitizers and fuzzing), "bench" (the benchmark library), "memcheck" (valgrind), and what
-# the checks of their name need: "desktop", "package" and "windows".
+# it needs for sanitizers and fuzzing), "bench" (the benchmark library), "memcheck" (valgrind), "deb" (to
+# make a Debian package), and what the checks of their name need: "desktop", "package" and "windows".
 set -euo pipefail
 
 as_root() {
@@ -25,7 +25,8 @@ install_debian() {
         memcheck) packages+=(valgrind libc6-dbg) ;;
         desktop) packages+=(appstream desktop-file-utils file libglib2.0-bin libxml2-utils mandoc
             shared-mime-info) ;;
-        package) packages+=(dpkg-dev file openbox wmctrl x11-utils xdotool xvfb) ;;
+        deb) packages+=(dpkg-dev file) ;;
+        package) packages+=(openbox wmctrl x11-utils xdotool xvfb) ;;
         windows) packages+=(g++-mingw-w64-x86-64-posix python3) ;;
         esac
     done

@@ -29,18 +29,38 @@ set(TESSARIN_CATEGORIES "${categories}")
 foreach(file IN ITEMS launcher tessarin.desktop tessarin.metainfo.xml tessarin.1 copyright)
     configure_file(linux/${file}.in linux/${file} @ONLY)
 endforeach()
-set(manual "${linux_built}/tessarin.1")
+configure_file("${PROJECT_SOURCE_DIR}/CHANGELOG.md" linux/CHANGELOG.md COPYONLY)
+
+# Manuals and lists of changes are installed packed.
 find_program(TESSARIN_GZIP gzip)
-if(TESSARIN_GZIP)
-    set(manual "${manual}.gz")
-    execute_process(COMMAND "${TESSARIN_GZIP}" -9nc "${linux_built}/tessarin.1"
-        OUTPUT_FILE "${manual}" COMMAND_ERROR_IS_FATAL ANY)
+function(pack file variable)
+    set(packed "${linux_built}/${file}")
+    if(TESSARIN_GZIP)
+        set(packed "${packed}.gz")
+        execute_process(COMMAND "${TESSARIN_GZIP}" -9nc "${linux_built}/${file}"
+            OUTPUT_FILE "${packed}" COMMAND_ERROR_IS_FATAL ANY)
+    endif()
+    set(${variable} "${packed}" PARENT_SCOPE)
+endfunction()
+pack(tessarin.1 manual)
+pack(CHANGELOG.md changes)
+# Debian wants its packages to have a list of a form of its own, with dates as in mails.
+find_program(TESSARIN_DPKG dpkg)
+if(TESSARIN_DPKG AND TESSARIN_GZIP)
+    execute_process(COMMAND date --utc --rfc-email --date "${TESSARIN_RELEASE_DATE}"
+        OUTPUT_VARIABLE TESSARIN_RELEASE_DAY OUTPUT_STRIP_TRAILING_WHITESPACE
+        COMMAND_ERROR_IS_FATAL ANY)
+    configure_file(linux/changelog.in linux/changelog @ONLY)
+    pack(changelog debian_changes)
 endif()
 
 install(TARGETS Tessarin RUNTIME DESTINATION "${program_folder}")
 tessarin_install_resources("${data_folder}")
 install(PROGRAMS "${linux_built}/launcher" DESTINATION "${CMAKE_INSTALL_BINDIR}" RENAME tessarin)
-install(FILES "${linux_built}/copyright" DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/tessarin")
+install(FILES "${linux_built}/copyright" "${changes}" ${debian_changes}
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/tessarin")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/flows"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/tessarin")
 
 # What the desktop reads is a component of its own: it can be installed, and checked, unbuilt.
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME desktop)

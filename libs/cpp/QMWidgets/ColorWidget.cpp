@@ -1,12 +1,11 @@
 #include "ColorWidget.h"
 
 #include "ColorWidgetPopup.h"
+#include "FocusRing.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 #include <QRadialGradient>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace QMWidgets
 {
@@ -68,14 +67,8 @@ void ColorWidget::paintEvent(QPaintEvent*)
     painter.translate(width() - 10, height() - 8);
     const QPoint arrow[] = {QPoint(0, 0), QPoint(8, 0), QPoint(4, 4)};
     painter.drawPolygon(arrow, 3);
-
-    // Only for those who came here by keyboard: a click leaves the swatch as it is.
-    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        painter.resetTransform();
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    painter.end();
+    drawFocusRing(this);
 }
 
 void ColorWidget::mousePressEvent(QMouseEvent* event)

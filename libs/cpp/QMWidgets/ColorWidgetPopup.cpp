@@ -1,5 +1,7 @@
 #include "ColorWidgetPopup.h"
 
+#include "GridKeys.h"
+
 #include <QGridLayout>
 #include <QImage>
 #include <QMouseEvent>
@@ -58,6 +60,7 @@ ColorWidgetPopup::ColorWidgetPopup(QWidget* parent, Qt::WindowFlags flags)
             grid->addWidget(button, row, column);
         }
     }
+    new GridKeys(grid); // the popup owns it
 }
 
 QString ColorWidgetPopup::caption(const QColor& color)

@@ -1,0 +1,13 @@
+#pragma once
+
+class QWidget;
+
+namespace QMWidgets
+{
+
+/// Draws the ring around a widget that paints itself, above all else, if the keyboard is there and
+/// has led the user to it or anywhere else in the window: a click leaves the picture as it is. Its
+/// colour is the outline that the style sheet sets for the focused widget. Call it from paintEvent.
+void drawFocusRing(QWidget* widget);
+
+} // namespace QMWidgets

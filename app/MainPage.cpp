@@ -10,6 +10,7 @@
 #include <QMWidgets/FollowLanguage.h>
 #include <QMWidgets/PromoMenuBar.h>
 #include <QMWidgets/ReminderType.h>
+#include <QMWidgets/TabOrder.h>
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -80,6 +81,7 @@ void MainPage::layOut()
     layout->addLayout(pictures);
     layout->addWidget(m_optionsPanel);
     layout->addWidget(m_flowPanel);
+    QMWidgets::tabAsLaidOut(this);
 }
 
 void MainPage::slotFilesDropped(const QList<QUrl>& urls)

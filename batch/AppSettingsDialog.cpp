@@ -3,6 +3,7 @@
 #include "flow/ComboSlider.h"
 #include <QMWidgets/App.h>
 #include <QMWidgets/GroupBox.h>
+#include <QMWidgets/TabOrder.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -87,6 +88,7 @@ AppSettingsDialog::AppSettingsDialog(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(inner);
     layout->addLayout(buttons);
+    QMWidgets::tabAsLaidOut(this);
 
     slotLoadSettings();
 }

@@ -1,5 +1,8 @@
 #include "flow/DirectionsWidget.h"
 
+#include <QMWidgets/GridKeys.h>
+#include <QMWidgets/TabOrder.h>
+
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPushButton>
@@ -32,12 +35,10 @@ DirectionsWidget::DirectionsWidget(QWidget* parent)
     grid->setContentsMargins(1, 1, 1, 1);
     grid->setSpacing(0);
     for (int cell = 0; cell < kCells; ++cell) {
-        QPushButton* const cellButton = button(Direction(cell));
-        grid->addWidget(cellButton, cell / kColumns, cell % kColumns);
-        if (cell > 0) {
-            setTabOrder(button(Direction(cell - 1)), cellButton);
-        }
+        grid->addWidget(button(Direction(cell)), cell / kColumns, cell % kColumns);
     }
+    QMWidgets::tabAsLaidOut(m_frame);
+    new QMWidgets::GridKeys(grid); // the frame owns it
     m_frame->setFixedSize(58, 58);
     setFocusProxy(m_topLeft);
 

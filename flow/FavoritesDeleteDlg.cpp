@@ -2,6 +2,7 @@
 
 #include <QMWidgets/ButtonRow.h>
 #include <QMWidgets/FollowLanguage.h>
+#include <QMWidgets/TabOrder.h>
 
 #include <QBoxLayout>
 #include <QListWidget>
@@ -45,6 +46,7 @@ FavoritesDeleteDlg::FavoritesDeleteDlg(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_list);
     layout->addLayout(buttons);
+    QMWidgets::tabAsLaidOut(this);
 }
 
 QString FavoritesDeleteDlg::selectedFlow() const

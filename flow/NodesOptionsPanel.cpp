@@ -6,6 +6,7 @@
 #include "intake/CommonData.h"
 #include <MGraphX/OpaqueScaling.h>
 #include <QMWidgets/App.h>
+#include <QMWidgets/TabOrder.h>
 
 #include <QCoreApplication>
 #include <QStackedWidget>
@@ -51,6 +52,7 @@ BaseNode* NodesOptionsPanel::createNode(const QString& operationName)
     BaseNode* const node = operation->create(operation->name);
     m_stack->addWidget(node);
     m_stack->setCurrentWidget(node);
+    QMWidgets::tabAsLaidOut(window());
     connect(node, &BaseNode::parametersChanged, this, &NodesOptionsPanel::slotParametersChanged,
             Qt::DirectConnection);
     return node;

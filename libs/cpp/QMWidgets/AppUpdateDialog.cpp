@@ -2,6 +2,7 @@
 
 #include "App.h"
 #include "SetupPushButton.h"
+#include "TabOrder.h"
 #include "UpdateSettings.h"
 
 #include <QCheckBox>
@@ -46,8 +47,6 @@ AppUpdateDialog::AppUpdateDialog(bool hasNewerVersion, QWidget* parent)
     // The dialog may come up by itself: a key that was meant for the program opens no web page.
     no->setDefault(true);
     no->setFocus();
-    setTabOrder(yes, no);
-    setTabOrder(no, m_checkBox);
 
     auto* const buttons = new QHBoxLayout;
     buttons->setContentsMargins(0, 0, 0, 0);
@@ -66,6 +65,7 @@ AppUpdateDialog::AppUpdateDialog(bool hasNewerVersion, QWidget* parent)
     layout->addWidget(m_textLabel);
     layout->addLayout(buttons);
     layout->addLayout(options);
+    tabAsLaidOut(this);
 }
 
 void AppUpdateDialog::slotCancel()

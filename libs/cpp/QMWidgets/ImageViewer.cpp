@@ -3,6 +3,7 @@
 #include "App.h"
 #include "FollowLanguage.h"
 #include "ImageArea.h"
+#include "TabOrder.h"
 
 #include <QDesktopServices>
 #include <QHBoxLayout>
@@ -113,12 +114,6 @@ QHBoxLayout* ImageViewer::makeZoomRow()
     row->addSpacing(20);
     row->addWidget(m_fitButton);
     row->addStretch(1);
-
-    // The keyboard goes through the row as the eye does.
-    setTabOrder(minusButton, m_slider);
-    setTabOrder(m_slider, plusButton);
-    setTabOrder(plusButton, m_actualPixelsButton);
-    setTabOrder(m_actualPixelsButton, m_fitButton);
     return row;
 }
 
@@ -141,6 +136,7 @@ void ImageViewer::layOut()
     layout->addLayout(upper);
     layout->addWidget(m_area);
     layout->addLayout(makeZoomRow());
+    tabAsLaidOut(this);
 }
 
 void ImageViewer::setInfo(const QString& text)

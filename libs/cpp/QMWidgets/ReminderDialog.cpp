@@ -3,6 +3,7 @@
 #include "App.h"
 #include "ButtonRow.h"
 #include "SetupPushButton.h"
+#include "TabOrder.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -55,6 +56,7 @@ ReminderDialog::ReminderDialog(QWidget* parent)
     layout->addLayout(makeUpperRow());
     layout->addLayout(m_extraLayout);
     layout->addLayout(buttons);
+    tabAsLaidOut(this);
 }
 
 void ReminderDialog::setUpButtons()
@@ -66,10 +68,6 @@ void ReminderDialog::setUpButtons()
     connect(m_laterButton, &QPushButton::clicked, this, &ReminderDialog::slotMaybeLater);
     connect(m_laterButton2, &QPushButton::clicked, this, &ReminderDialog::slotMaybeLater);
     connect(m_neverButton, &QPushButton::clicked, this, &ReminderDialog::slotNeverAskMeAgain);
-    // As they stand, from left to right.
-    setTabOrder(m_laterButton, m_neverButton);
-    setTabOrder(m_neverButton, m_laterButton2);
-    setTabOrder(m_laterButton2, m_nowButton);
 }
 
 QBoxLayout* ReminderDialog::makeUpperRow()

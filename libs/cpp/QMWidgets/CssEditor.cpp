@@ -57,7 +57,10 @@ void CssEditor::makeActions()
     setInfo->setShortcut(Qt::CTRL + Qt::Key_I);
     QAction* const apply = operations->addAction(tr("&Apply"), this, &CssEditor::slotApply);
     apply->setShortcut(Qt::CTRL + Qt::Key_A);
-    operations->addAction(tr("&Reset"), this, &CssEditor::slotReset);
+    QAction* const reset = operations->addAction(tr("&Reset"), this, &CssEditor::slotReset);
+    // The only one without a key of its own.
+    file->addSeparator();
+    file->addAction(reset);
 
     menuBar()->addMenu(tr("&Help"))->addAction(tr("&About"), this, &CssEditor::slotAbout);
 }

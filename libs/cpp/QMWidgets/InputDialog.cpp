@@ -66,7 +66,9 @@ InputDialog::InputDialog(const QString& label, QWidget* parent, QWidget*, Qt::Wi
     connect(m_cancelButton, &QPushButton::clicked, this, &InputDialog::reject);
 
     auto* input = new QVBoxLayout;
-    input->addWidget(new QLabel(label, this));
+    auto* caption = new QLabel(label, this);
+    caption->setBuddy(m_stack->currentWidget());
+    input->addWidget(caption);
     input->addWidget(m_stack);
     QBoxLayout* const buttons = makeButtonRow();
     buttons->addStretch(1);

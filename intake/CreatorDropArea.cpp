@@ -3,6 +3,7 @@
 #include "intake/BaseNameOf.h"
 #include "intake/CommonData.h"
 #include <QMWidgets/FileDialog.h>
+#include <QMWidgets/FocusRing.h>
 #include <QMWidgets/FollowLanguage.h>
 #include <QMWidgets/StepButtons.h>
 
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QPixmap>
 #include <QPushButton>
@@ -65,6 +67,7 @@ void CreatorDropArea::setFiles(const QList<QUrl>& urls)
     m_currentIndex = 0;
     m_currentFile = m_urls.first().toLocalFile();
     m_openButton->hide();
+    setFocusPolicy(Qt::TabFocus);
     loadPixmap();
     setText(QString());
     emit dropped(true);
@@ -153,6 +156,7 @@ void CreatorDropArea::updateCounter()
     shared->setCount(m_urls.size());
     shared->setCurrentIndex(m_currentIndex);
     shared->setCurrentName(baseNameOf(QFileInfo(m_urls.at(m_currentIndex).toLocalFile())));
+    setAccessibleName(shared->currentName());
     m_counterLabel->setText(QStringLiteral("<CENTER><H1>%1 of %2</H1></CENTER>")
                                 .arg(m_currentIndex + 1)
                                 .arg(m_urls.size()));
@@ -190,4 +194,34 @@ void CreatorDropArea::dropEvent(QDropEvent* event)
 {
     setFiles(event->mimeData()->urls());
     Label::dropEvent(event);
+}
+
+void CreatorDropArea::keyPressEvent(QKeyEvent* event)
+{
+    // The buttons change sides where one reads from the right.
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        isMirrored ? slotNext() : slotPreviuos();
+        break;
+    case Qt::Key_Right:
+        isMirrored ? slotPreviuos() : slotNext();
+        break;
+    case Qt::Key_Home:
+        slotGotoFirst();
+        break;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        slotOpenClicked();
+        break;
+    default:
+        Label::keyPressEvent(event);
+    }
+}
+
+void CreatorDropArea::paintEvent(QPaintEvent* event)
+{
+    Label::paintEvent(event);
+    QMWidgets::drawFocusRing(this);
 }

@@ -11,7 +11,8 @@ class QPushButton;
 
 /// The square of the source panel: takes photos by drop or file dialog, shows the current one and
 /// steps through them. It owns the list of photos and the current index; the shared data and the
-/// strip hold copies.
+/// strip hold copies. Once photos have arrived the keyboard reaches it: arrows step as the buttons
+/// do, Home goes to the first photo, and Space or Enter opens other photos.
 class CreatorDropArea : public QMWidgets::Label
 {
     Q_OBJECT
@@ -45,6 +46,8 @@ protected:
     void leaveEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void stepTo(int index);

@@ -9,6 +9,7 @@
 #include "flow/TabLabel.h"
 #include <QMWidgets/App.h>
 #include <QMWidgets/FollowLanguage.h>
+#include <QMWidgets/TabOrder.h>
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -63,6 +64,7 @@ FlowPanel::FlowPanel(NodesOptionsPanel* optionsPanel, QWidget* parent)
     connect(m_tabBar, &NodesTabBar::countChanged, this, &FlowPanel::slotNodesCountChanged);
     connect(m_tabBar, &NodesTabBar::tabMoved, this, &FlowPanel::slotTabMoved);
     connect(m_tabBar, &NodesTabBar::tabsDragged, this, &FlowPanel::slotTabsDragged);
+    connect(m_tabBar, &NodesTabBar::previewAsked, this, &FlowPanel::slotPreviewAsked);
 
     auto* addButton = makeRoundButton(QStringLiteral("+"), QStringLiteral("PushButtonAdd"), this);
     addButton->setMenu(makeAddMenu(addButton));
@@ -137,11 +139,7 @@ void FlowPanel::layOut(QPushButton* addButton, QPushButton* flowsButton, QPushBu
         layout->setContentsMargins(1, 1, 1, 1);
     }
     layout->addWidget(frame);
-
-    QWidget* const inOrder[] = {addButton, m_removeButton, flowsButton, runButton, m_tabBar};
-    for (std::size_t i = 1; i < std::size(inOrder); ++i) {
-        setTabOrder(inOrder[i - 1], inOrder[i]);
-    }
+    QMWidgets::tabAsLaidOut(this);
 }
 
 BaseNode* FlowPanel::addNode(const QString& operationName)
@@ -239,5 +237,12 @@ void FlowPanel::slotNodePreviewChanged(const QImage& image)
     const auto label = m_tabLabels.find(qobject_cast<BaseNode*>(sender()));
     if (label != m_tabLabels.end()) {
         label.value()->setPixmap(QPixmap::fromImage(image));
+    }
+}
+
+void FlowPanel::slotPreviewAsked()
+{
+    if (TabLabel* const label = m_tabLabels.value(m_flow.value(m_tabBar->currentIndex()))) {
+        label->showPreviewToKeys(m_tabBar);
     }
 }

@@ -76,6 +76,8 @@ public slots:
     /// Shows the folder of flows in the file manager.
     void slotGotoPresetsLocation();
     void slotNodePreviewChanged(const QImage& image);
+    /// Shows the current tab's picture larger, for as long as the keyboard rests there.
+    void slotPreviewAsked();
 
 private:
     QMenu* makeAddMenu(QWidget* parent);

@@ -1,8 +1,15 @@
 #include "flow/NodesTabBar.h"
 
+#include <QKeyEvent>
+#include <QToolButton>
+
 NodesTabBar::NodesTabBar(QWidget* parent)
     : QTabBar(parent)
 {
+    // The arrow keys bring tabs into sight by themselves.
+    for (QToolButton* button : findChildren<QToolButton*>()) {
+        button->setFocusPolicy(Qt::NoFocus);
+    }
 }
 
 void NodesTabBar::tabInserted(int index)
@@ -19,8 +26,33 @@ void NodesTabBar::tabRemoved(int index)
 
 void NodesTabBar::keyPressEvent(QKeyEvent* event)
 {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        emit previewAsked();
+        return;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        if (event->modifiers() & Qt::ControlModifier) {
+            moveCurrentTab(event->key());
+            return;
+        }
+        break;
+    default:
+        break;
+    }
     QTabBar::keyPressEvent(event);
     emit tabClicked();
+}
+
+void NodesTabBar::moveCurrentTab(int key)
+{
+    const bool isForward = (key == Qt::Key_Right) == (layoutDirection() == Qt::LeftToRight);
+    const int target = currentIndex() + (isForward ? 1 : -1);
+    if (target >= 0 && target < count()) {
+        moveTab(currentIndex(), target);
+    }
 }
 
 void NodesTabBar::wheelEvent(QWheelEvent* event)

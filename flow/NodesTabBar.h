@@ -3,6 +3,7 @@
 #include <QTabBar>
 
 /// The tab bar of a flow: tells when a press or a drag ends and when the number of tabs changes.
+/// What the mouse drags, the arrow keys move with Ctrl held down.
 class NodesTabBar : public QTabBar
 {
     Q_OBJECT
@@ -18,6 +19,8 @@ signals:
     /// another tab.
     void tabClicked();
     void countChanged(int count);
+    /// Space or Enter: the user wants to see the current tab's picture.
+    void previewAsked();
     /// A drag has moved tabs; comes when the bar is done with the movement of the mouse, and so may
     /// be answered by anything, be it a removal of tabs.
     void tabsDragged();
@@ -31,5 +34,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void moveCurrentTab(int key);
+
     bool m_movingTabs = false;
 };

@@ -3,6 +3,7 @@
 #include "preview/BubblePreview.h"
 #include <QMWidgets/App.h>
 
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -37,6 +38,8 @@ TabLabel::TabLabel(QWidget* parent)
     m_previewButton->setFixedSize(32, 16);
     m_previewButton->setObjectName(QStringLiteral("ThumbnailPreviewButton"));
     m_previewButton->setAccessibleName(tr("Preview"));
+    // There for the mouse alone: keys ask the bar.
+    m_previewButton->setFocusPolicy(Qt::NoFocus);
     m_previewButton->hide();
     connect(m_previewButton, &QPushButton::clicked, this, &TabLabel::slotShowPreview);
 
@@ -75,6 +78,36 @@ void TabLabel::slotShowPreview()
     m_bubble->setShowAnimation(m_flightOut);
     m_bubble->setHideAnimation(m_flightHome);
     m_bubble->show();
+}
+
+void TabLabel::showPreviewToKeys(QWidget* focused)
+{
+    m_bubble->setAttribute(Qt::WA_ShowWithoutActivating, true);
+    slotShowPreview();
+    m_bubble->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    // The bubble too: some desktops give it the keyboard all the same.
+    m_focused = focused;
+    m_focused->installEventFilter(this);
+    m_bubble->installEventFilter(this);
+}
+
+bool TabLabel::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress;
+    const bool isLeave = event->type() == QEvent::FocusOut && !m_bubble->isActiveWindow();
+    if (!isKey && !isLeave) {
+        return QMWidgets::Label::eventFilter(watched, event);
+    }
+    const bool wasOpen = m_bubble->isVisible();
+    m_bubble->hide();
+    m_bubble->removeEventFilter(this);
+    if (m_focused) {
+        m_focused->removeEventFilter(this);
+    }
+    // A key that steps on does so; any other has done its work by closing the bubble.
+    const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
+    return isKey && wasOpen && key != Qt::Key_Left && key != Qt::Key_Right && key != Qt::Key_Tab &&
+           key != Qt::Key_Backtab;
 }
 
 QPropertyAnimation* TabLabel::makeFlight(const QRect& from, const QRect& to) const

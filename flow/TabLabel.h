@@ -18,6 +18,11 @@ public:
     explicit TabLabel(QWidget* parent);
     ~TabLabel() override;
 
+    /// Shows the bubble to the user of the keyboard, which stays where it is: the next key there
+    /// closes it, and so does the keyboard's leaving.
+    void showPreviewToKeys(QWidget* focused);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public slots:
     /// Lets the bubble fly out of the label and stand above it; with no picture nothing happens.
     void slotShowPreview();
@@ -33,6 +38,7 @@ private:
 
     QPushButton* m_previewButton;
     BubblePreview* m_bubble;
+    QPointer<QWidget> m_focused; ///< where the keyboard was when it opened the bubble
     // The bubble's animations, gone when they have stopped.
     QPointer<QPropertyAnimation> m_flightOut;
     QPointer<QPropertyAnimation> m_flightHome;

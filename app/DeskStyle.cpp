@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 #include <QStyleOptionSlider>
 
 namespace
@@ -116,6 +117,10 @@ void DeskStyle::polish(QWidget* widget)
         widget->overrideWindowFlags(widget->windowFlags() | Qt::FramelessWindowHint |
                                     Qt::NoDropShadowWindowHint);
         widget->setAttribute(Qt::WA_TranslucentBackground);
+    }
+    // In dialogs Enter presses the button that has the keyboard; so it does elsewhere.
+    if (auto* const button = qobject_cast<QPushButton*>(widget)) {
+        button->setAutoDefault(true);
     }
 }
 

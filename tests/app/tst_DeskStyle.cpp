@@ -1,31 +1,22 @@
 #include "app/MainPage.h"
 #include "app/Startup.h"
-#include "app/StyleSheet.h"
 #include "flow/BaseNode.h"
 #include "flow/FlowPanel.h"
-#include "SheetRules.h"
 #include "support/TestMain.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QMWidgets/App.h>
 #include <QPainter>
-#include <QPushButton>
 #include <QSlider>
-#include <QSpinBox>
-#include <QTabBar>
 
 namespace
 {
 
 const QColor kDesk(71, 71, 71);
-const QColor kAccent(0xff, 0xb0, 0x2e);
 
 QImage imageOf(QWidget* widget)
 {
@@ -57,46 +48,6 @@ class TestDeskStyle : public QObject
 private slots:
     void initTestCase() { setUpApplication(*QMWidgets::App::app()); }
     void cleanupTestCase() { qApp->setStyleSheet(QString()); }
-
-    void showsWhereTheKeyboardIs()
-    {
-        QWidget window;
-        window.resize(300, 300);
-        auto* const other = new QLineEdit(&window);
-        other->setGeometry(0, 250, 100, 30);
-        auto* const tabs = new QTabBar(&window);
-        tabs->addTab(QStringLiteral("Tab"));
-        QWidgetList widgets = {tabs,
-                               new QSlider(Qt::Horizontal, &window),
-                               new QSpinBox(&window),
-                               new QComboBox(&window),
-                               new QListWidget(&window),
-                               new QCheckBox(QStringLiteral("Check"), &window),
-                               new QLineEdit(&window)};
-        for (const QString& name : SheetRules(applicationStyleSheet()).objectNames()) {
-            if (name.contains(QLatin1String("Button"))) {
-                auto* const button = new QPushButton(&window);
-                button->setObjectName(name);
-                button->setFlat(true);
-                widgets += button;
-            }
-        }
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        for (QWidget* widget : qAsConst(widgets)) {
-            widget->setFocusPolicy(Qt::StrongFocus);
-            widget->ensurePolished();
-            widget->resize(widget->sizeHint().expandedTo(QSize(24, 18)));
-            other->setFocus();
-            const int before = countPixels(imageOf(widget), kAccent);
-            widget->setFocus(Qt::TabFocusReason);
-            QVERIFY(widget->hasFocus());
-            // A ring, so at least its straight parts.
-            QVERIFY2(countPixels(imageOf(widget), kAccent) >= before + 20,
-                     qPrintable(QLatin1String(widget->metaObject()->className()) +
-                                widget->objectName()));
-        }
-    }
 
     void slidersKeepTheirTicks()
     {

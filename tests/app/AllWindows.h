@@ -3,6 +3,7 @@
 #include "app/MainPage.h"
 #include "batch/AppSettingsDialog.h"
 #include "batch/BatchDialog.h"
+#include "flow/BaseNode.h"
 #include "flow/FavoritesDeleteDlg.h"
 #include "flow/FlowPanel.h"
 #include "flow/Operations.h"
@@ -21,7 +22,11 @@
 #include <QMWidgets/TellDialog.h>
 #include <QMWidgets/TellReminderDialog.h>
 
+#include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
+#include <QStackedWidget>
+#include <QTest>
 
 /// Every window of the program, the page with a node of each operation.
 struct AllWindows {
@@ -31,8 +36,9 @@ struct AllWindows {
     BatchDialog batch;
     FavoritesDeleteDlg favorites{nullptr};
     ImageViewDialog view{nullptr};
-    QMWidgets::MMessageBox message{
-        1, QString(), QString(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, nullptr};
+    QMWidgets::MMessageBox message{1, QString(), QStringLiteral("Message"),
+                                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                                   nullptr};
     QMWidgets::InputDialog input{QStringLiteral("Name:"), nullptr, nullptr, {}, 0};
     QMWidgets::HelpDialog help{nullptr};
     QMWidgets::TellDialog tell{nullptr};
@@ -48,6 +54,7 @@ struct AllWindows {
     AllWindows()
     {
         QMWidgets::App::app()->setMainWidget(&page);
+        dropWindow.resize(400, 400);
         help.addSlide(QString());
         for (const Operation& operation : operations()) {
             page.findChild<FlowPanel*>()->addNode(operation.name);
@@ -61,3 +68,33 @@ struct AllWindows {
                 &about, &newer,      &tellReminder, &joinReminder, &latest,    &editor};
     }
 };
+
+/// Shows the windows one after the other, and the page with each of its nodes.
+template <class Look> void forEachView(AllWindows& windows, const Look& look)
+{
+    for (QWidget* const window : windows.list()) {
+        window->show();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        // All of it in use, so that nothing is left out for being switched off.
+        for (QGroupBox* const group : window->findChildren<QGroupBox*>()) {
+            group->setChecked(true);
+        }
+        const auto nodes = window->findChildren<BaseNode*>();
+        if (nodes.isEmpty()) {
+            look(window);
+        }
+        for (BaseNode* const node : nodes) {
+            qobject_cast<QStackedWidget*>(node->parentWidget())->setCurrentWidget(node);
+            // The other kind of a node with two has other controls.
+            auto* const kind = node->findChild<QComboBox*>();
+            for (int i = kind ? kind->count() - 1 : 0; i >= 0; --i) {
+                if (kind) {
+                    kind->setCurrentIndex(i);
+                }
+                QCoreApplication::processEvents();
+                look(window);
+            }
+        }
+        window->hide();
+    }
+}

@@ -17,10 +17,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QButtonGroup>
-#include <QComboBox>
 #include <QFileDialog>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QMWidgets/ColorWidgetPopup.h>
@@ -29,7 +27,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
-#include <QStackedWidget>
 #include <QToolButton>
 
 using QMWidgets::TranslationsManager;
@@ -39,36 +36,6 @@ namespace
 
 const QColor kAccent(0xff, 0xb0, 0x2e);
 constexpr int kSoftened = 150;
-
-/// Shows the windows one after the other, and the page with each of its nodes.
-template <class Look> void forEachView(AllWindows& windows, const Look& look)
-{
-    for (QWidget* const window : windows.list()) {
-        window->show();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        // All of it in use, so that nothing is left out for being switched off.
-        for (QGroupBox* const group : window->findChildren<QGroupBox*>()) {
-            group->setChecked(true);
-        }
-        const auto nodes = window->findChildren<BaseNode*>();
-        if (nodes.isEmpty()) {
-            look(window);
-        }
-        for (BaseNode* const node : nodes) {
-            qobject_cast<QStackedWidget*>(node->parentWidget())->setCurrentWidget(node);
-            // The other kind of a node with two has other controls.
-            auto* const kind = node->findChild<QComboBox*>();
-            for (int i = kind ? kind->count() - 1 : 0; i >= 0; --i) {
-                if (kind) {
-                    kind->setCurrentIndex(i);
-                }
-                QCoreApplication::processEvents();
-                look(window);
-            }
-        }
-        window->hide();
-    }
-}
 
 QString named(const QWidget* widget)
 {

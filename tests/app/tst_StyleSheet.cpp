@@ -3,8 +3,8 @@
 #include "app/StyleSheet.h"
 #include "SheetRules.h"
 #include "support/TestMain.h"
+#include "TextContrast.h"
 
-#include <cmath>
 #include <QApplication>
 #include <QDir>
 #include <QPushButton>
@@ -57,22 +57,6 @@ const struct OtherPictures {
 QStringList patternsOf(const OtherPictures& pictures)
 {
     return QString::fromLatin1(pictures.patterns).split(QLatin1Char(' '));
-}
-
-double luminance(const QColor& color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return a > b ? a / b : b / a;
 }
 
 /// What is seen of a colour that lies on the desk.

@@ -1,6 +1,7 @@
 #include "app/DeskStyle.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <QMenu>
 #include <QPainter>
@@ -63,6 +64,17 @@ int tickStep(const QStyleOptionSlider& slider)
     return isClear(step) ? step : isClear(slider.pageStep) ? slider.pageStep : 0;
 }
 
+/// The rectangle at the nearest whole pixels of the screen, where its edges are sharp, and as wide
+/// as any other of its size: on screens with one and a half pixels to a unit it lies between them.
+QRectF onPixels(const QPainter& painter, const QRectF& rect)
+{
+    const QTransform toScreen = painter.deviceTransform();
+    const QRectF there = toScreen.mapRect(rect);
+    const QRectF whole(std::round(there.left()), std::round(there.top()), std::round(there.width()),
+                       std::round(there.height()));
+    return toScreen.inverted().mapRect(whole);
+}
+
 void drawTicks(QPainter& painter, const QStyleOptionSlider& slider)
 {
     const int step = tickStep(slider);
@@ -70,34 +82,38 @@ void drawTicks(QPainter& painter, const QStyleOptionSlider& slider)
         return;
     }
     const QRect groove = grooveOf(slider);
-    const QColor color = slider.palette.color(QPalette::WindowText);
+    const auto drawTick = [&](int x, int y) {
+        painter.fillRect(onPixels(painter, QRectF(x, y, 1, kTick)),
+                         slider.palette.color(QPalette::WindowText));
+    };
     // Counted from the value at rest, so that this one has a tick.
     const qint64 rest = restOf(slider);
     const qint64 first = rest - (rest - slider.minimum) / step * step;
     for (qint64 value = first; value <= slider.maximum; value += step) {
         const int x = middleAt(slider, int(value));
         if (slider.tickPosition & QSlider::TicksAbove) {
-            painter.fillRect(x, groove.top() - kTickGap - kTick, 1, kTick, color);
+            drawTick(x, groove.top() - kTickGap - kTick);
         }
         if (slider.tickPosition & QSlider::TicksBelow) {
-            painter.fillRect(x, groove.top() + kGroove + kTickGap, 1, kTick, color);
+            drawTick(x, groove.top() + kGroove + kTickGap);
         }
     }
 }
 
 void drawGroove(QPainter& painter, const QStyleOptionSlider& slider)
 {
-    const QRectF groove = grooveOf(slider);
+    const QRectF groove = onPixels(painter, grooveOf(slider));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(slider.palette.color(QPalette::WindowText));
-    painter.drawRoundedRect(groove.adjusted(-1, -1, 1, 1), kGroove / 2 + 1, kGroove / 2 + 1);
+    painter.drawRoundedRect(onPixels(painter, groove.adjusted(-1, -1, 1, 1)), kGroove / 2 + 1,
+                            kGroove / 2 + 1);
     painter.setBrush(QColor(25, 25, 25));
     painter.drawRoundedRect(groove, kGroove / 2, kGroove / 2);
 
     const int from = middleAt(slider, restOf(slider));
     const int to = middleAt(slider, slider.sliderPosition);
-    const QRectF filled(std::min(from, to), groove.top(), std::abs(to - from), kGroove);
+    const QRectF filled(std::min(from, to), groove.top(), std::abs(to - from), groove.height());
     painter.setBrush(slider.palette.color(QPalette::Highlight));
     painter.drawRoundedRect(filled, kGroove / 2, kGroove / 2);
 }

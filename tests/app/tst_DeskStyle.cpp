@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QMap>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QMWidgets/App.h>
@@ -77,6 +78,38 @@ private slots:
         slider.setRange(1, 100);
         slider.setValue(1);
         QCOMPARE(countPixels(imageOf(&slider), fill), 0);
+    }
+
+    void ticksAreEvenBetweenWholeRatios()
+    {
+        QSlider slider(Qt::Horizontal);
+        slider.setRange(-100, 100);
+        slider.setTickInterval(20);
+        slider.setTickPosition(QSlider::TicksAbove);
+        slider.resize(221, 26);
+        slider.ensurePolished();
+        const QRgb color = slider.palette().color(QPalette::WindowText).rgb();
+        for (const double ratio : {1.25, 1.5, 1.75}) {
+            QImage image(slider.size() * ratio, QImage::Format_RGB32);
+            image.setDevicePixelRatio(ratio);
+            image.fill(kDesk);
+            slider.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+            // Through the middle of the ticks, which lie six units above the groove's upper edge.
+            const int y = int(6.5 * ratio);
+            QMap<int, int> countOfWidth;
+            int width = 0;
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixel(x, y) == color) {
+                    ++width;
+                } else if (width > 0) {
+                    ++countOfWidth[width];
+                    width = 0;
+                }
+            }
+            QCOMPARE(countOfWidth.size(), 1);
+            QCOMPARE(countOfWidth.firstKey(), qRound(ratio));
+            QVERIFY(countOfWidth.first() >= 10); // the handle may hide one
+        }
     }
 
     void slidersTakeTheHandleToTheMouse()

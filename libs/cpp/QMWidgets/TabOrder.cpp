@@ -1,6 +1,6 @@
 #include "TabOrder.h"
 
-#include <QLayout>
+#include <QBoxLayout>
 #include <QList>
 #include <QWidget>
 
@@ -16,8 +16,12 @@ void addStops(QWidget* widget, Stops& stops);
 
 void addStops(QLayout* layout, Stops& stops, QList<QObject*>& seen)
 {
-    for (int i = 0; i < layout->count(); ++i) {
-        QLayoutItem* const item = layout->itemAt(i);
+    const auto* const box = qobject_cast<QBoxLayout*>(layout);
+    const bool fromTheEnd = box && (box->direction() == QBoxLayout::RightToLeft ||
+                                    box->direction() == QBoxLayout::BottomToTop);
+    const int count = layout->count();
+    for (int i = 0; i < count; ++i) {
+        QLayoutItem* const item = layout->itemAt(fromTheEnd ? count - 1 - i : i);
         if (QWidget* const widget = item->widget()) {
             seen += widget;
             addStops(widget, stops);

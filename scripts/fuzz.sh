@@ -2,14 +2,16 @@
 # fuzz.sh [SECONDS [TARGET...]]: builds the fuzz targets and runs each for so long, 60 seconds if
 # nothing is told, one after the other. Fails if one finds something; what it has found then lies in
 # build/fuzz/findings, and its target reproduces it when it gets that file as its only argument.
+# With FUZZ_BUILT=1 set the targets are run as they are built: several calls may run at the same time
+# then, each with targets of its own.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 seconds=${1:-60}
 shift || true
-[ $# -gt 0 ] || set -- parameters data-url flow image
+[ $# -gt 0 ] || set -- parameters data-url flow image update
 
-scripts/build.sh fuzz
+[ "${FUZZ_BUILT:-0}" = 1 ] || scripts/build.sh fuzz
 
 export ASAN_OPTIONS=detect_stack_use_after_return=1
 export UBSAN_OPTIONS=print_stacktrace=1

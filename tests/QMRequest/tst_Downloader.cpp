@@ -1,15 +1,49 @@
 #include "support/HttpServer.h"
 #include "support/TestMain.h"
 
+#include <algorithm>
 #include <memory>
 #include <QMRequest/Downloader.h>
 #include <QMRequest/DownloadManager.h>
+#include <QNetworkReply>
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QThread>
 
 using QMRequest::Downloader;
 using QMRequest::DownloadManager;
+
+namespace
+{
+
+/// A body that came to an end without an error.
+class EndedReply : public QNetworkReply
+{
+public:
+    explicit EndedReply(const QByteArray& body)
+        : m_rest(body)
+    {
+        open(QIODevice::ReadOnly);
+    }
+
+    void setLength(int length) { setHeader(QNetworkRequest::ContentLengthHeader, length); }
+    void abort() override {}
+    qint64 bytesAvailable() const override { return m_rest.size() + QIODevice::bytesAvailable(); }
+
+protected:
+    qint64 readData(char* data, qint64 size) override
+    {
+        const int count = int(qMin(size, qint64(m_rest.size())));
+        std::copy_n(m_rest.constData(), count, data);
+        m_rest.remove(0, count);
+        return count;
+    }
+
+private:
+    QByteArray m_rest;
+};
+
+} // namespace
 
 class tst_Downloader : public QObject
 {
@@ -48,6 +82,24 @@ private slots:
             for (const QByteArray& request : server.requests()) {
                 QVERIFY(request.startsWith("GET /here?a=b ") || request.startsWith("GET / "));
             }
+        }
+    }
+
+    void aBodyThatBreaksOffIsAFailure()
+    {
+        // The toolkit doesn't always notice.
+        const QList<QPair<int, bool>> rows = {{-1, true}, {5, true}, {6, false}};
+        for (const auto& row : rows) {
+            DownloadManager manager;
+            QSignalSpy done(&manager, &DownloadManager::done);
+            QSignalSpy error(&manager, &DownloadManager::error);
+            auto* const reply = new EndedReply("hello");
+            if (row.first >= 0) {
+                reply->setLength(row.first);
+            }
+            manager.slotFinished(reply);
+            QCOMPARE(done.count(), row.second ? 1 : 0);
+            QCOMPARE(error.count(), row.second ? 0 : 1);
         }
     }
 

@@ -21,6 +21,14 @@ QNetworkRequest requestFor(const QUrl& url)
     return request;
 }
 
+/// The toolkit takes a body that breaks off for a whole one if the connection's end overtakes its
+/// reading.
+bool isCutOff(const QNetworkReply& reply, const QByteArray& body)
+{
+    const QVariant length = reply.header(QNetworkRequest::ContentLengthHeader);
+    return length.isValid() && body.size() < length.toLongLong();
+}
+
 } // namespace
 
 DownloadManager::DownloadManager(QObject* parent)
@@ -63,10 +71,13 @@ void DownloadManager::slotFinished(QNetworkReply* reply)
         m_reply = nullptr;
     }
     if (reply->error() == QNetworkReply::NoError) {
-        emit done(reply->url(), reply->readAll());
-    } else {
-        emit error();
+        const QByteArray body = reply->readAll();
+        if (!isCutOff(*reply, body)) {
+            emit done(reply->url(), body);
+            return;
+        }
     }
+    emit error();
 }
 
 void DownloadManager::slotDownloadProgress(qint64 received, qint64 total)

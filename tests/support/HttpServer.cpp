@@ -65,7 +65,9 @@ void HttpServer::read(QTcpSocket* socket)
     if (!socket->peek(65536).contains("\r\n\r\n")) {
         return;
     }
-    m_requests.append(socket->readAll());
+    QByteArray head = socket->readAll();
+    head.squeeze(); // the toolkit gives it room for much more
+    m_requests.append(head);
     emit asked();
     if (m_answer.isEmpty()) {
         return;

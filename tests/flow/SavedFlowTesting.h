@@ -42,10 +42,11 @@ inline void save(
                      {[&name](QDialog* dialog) { answerName(dialog, name); }, answer});
 }
 
-inline std::function<void(QDialog*)> press(const QString& caption)
+/// Presses a button of a dialog; without a caption, dismisses the dialog.
+inline std::function<void(QDialog*)> press(const char* caption)
 {
     return [caption](QDialog* dialog) {
-        buttonOf(dialog, caption)->click();
+        *caption ? buttonOf(dialog, QLatin1String(caption))->click() : dialog->reject();
     };
 }
 

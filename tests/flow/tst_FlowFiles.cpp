@@ -201,7 +201,7 @@ private slots:
         Flow flow;
         flow.add(kBlur);
         QVERIFY(QDir(flowsFolder()).mkpath(QStringLiteral("c.flow/d")));
-        save(flow, QStringLiteral("c"), press(QStringLiteral("Yes")));
+        save(flow, QStringLiteral("c"), press("Yes"));
         QCOMPARE(QDir(flowsFolder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  QStringList("c.flow"));
 

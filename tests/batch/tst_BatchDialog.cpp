@@ -5,12 +5,9 @@
 #include "support/TestMain.h"
 #include "support/UrlCatcher.h"
 
-#include <QDateTime>
 #include <QDir>
-#include <QLabel>
 #include <QMWidgets/App.h>
 #include <QMWidgets/Label.h>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
 
@@ -87,34 +84,6 @@ private slots:
         QMWidgets::App::app()->setSettingsValue(QStringLiteral("KeyOpenLocation"), true);
     }
 
-    void aRunShowsItsProgressAndOpensTheFolder()
-    {
-        Photos photos;
-        UrlCatcher opened;
-        BatchDialog dialog;
-        QStringList texts;
-        const QList<QUrl> urls = {photos.add(QStringLiteral("a.png")),
-                                  photos.add(QStringLiteral("b.png"))};
-        const int result = run(dialog, urls, [&] {
-            for (QLabel* label : dialog.findChildren<QLabel*>()) {
-                texts += label->text();
-            }
-        });
-        QCOMPARE(result, int(QDialog::Accepted));
-        QVERIFY(texts.contains(QStringLiteral("<CENTER><H2>1 of 2</H2></CENTER>")) ||
-                texts.contains(QStringLiteral("<CENTER><H2>2 of 2</H2></CENTER>")));
-        QCOMPARE(dialog.findChild<QProgressBar*>()->value(), 50);
-        QCOMPARE(results(), QStringList({"a.png", "b.png"}));
-
-        const QStringList runs = QDir(outputFolder()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        QCOMPARE(runs.size(), 1);
-        QVERIFY(
-            QDateTime::fromString(runs.first(), QStringLiteral("yyyy-MM-dd_hh-mm-ss")).isValid());
-        const QList<QUrl> folders = opened.take();
-        QCOMPARE(folders.size(), 1);
-        QCOMPARE(QDir(folders.first().toLocalFile()), QDir(outputFolder() + runs.first()));
-    }
-
     void aRunWithNothingToDoEndsAtOnce()
     {
         UrlCatcher opened;
@@ -130,22 +99,6 @@ private slots:
         QCOMPARE(opened.take().size(), 0);
     }
 
-    void aPictureLargerThanScreensIsShownReduced()
-    {
-        BatchDialog dialog;
-        for (const auto& [size, shown] : {std::pair(QSize(4000, 3000), QSize(4000, 3000)),
-                                          std::pair(QSize(6000, 4000), QSize(3000, 2000))}) {
-            QImage image(size, QImage::Format_ARGB32);
-            image.fill(qRgb(10, 200, 30));
-            dialog.slotUpdateInfo(image, 0, 1);
-            const QImage picture = preview(dialog)->pixmap().toImage();
-            QCOMPARE(picture.size(), shown);
-            QCOMPARE(picture.pixelColor(shown.width() - 1, 5), QColor(10, 200, 30));
-        }
-        dialog.slotUpdateInfo(QImage(), 0, 1);
-        QVERIFY(preview(dialog)->pixmap().isNull());
-    }
-
     void aRunOfLargePicturesIsNotHeldUp()
     {
         Photos photos;
@@ -158,30 +111,6 @@ private slots:
         BatchDialog dialog;
         QCOMPARE(run(dialog, {url, url, url}), int(QDialog::Accepted));
         QCOMPARE(results(), QStringList({"a.bmp"}));
-    }
-
-    void stopLeavesTheRestAndTheNextRunIsWhole()
-    {
-        Photos photos;
-        UrlCatcher opened;
-        BatchDialog dialog;
-        QPushButton* const pause = button(dialog, "BatchPauseButton");
-        const QList<QUrl> many = addMany(photos);
-        const int stopped = run(dialog, many, [&] {
-            pause->click();
-            QCOMPARE(pause->text(), QStringLiteral("Resume"));
-            button(dialog, "BatchStopButton")->click();
-        });
-        QCOMPARE(stopped, int(QDialog::Accepted));
-        QVERIFY(!results().isEmpty());
-        QVERIFY(results().size() < many.size());
-
-        const int next = run(dialog, {photos.add(QStringLiteral("next.png"))}, [&] {
-            QCOMPARE(pause->text(), QStringLiteral("Pause"));
-            QVERIFY(!pause->isChecked());
-        });
-        QCOMPARE(next, int(QDialog::Accepted));
-        QVERIFY(results().contains(QStringLiteral("next.png")));
     }
 
     void pauseHoldsTheRunUntilResume()
@@ -207,21 +136,31 @@ private slots:
         QCOMPARE(results().size(), many.size());
     }
 
-    void closingInTheMiddleOfARunDoesNotDisturbTheNext()
+    void anEndInTheMiddleOfARunDoesNotDisturbTheNext()
     {
-        Photos photos;
-        UrlCatcher opened;
-        BatchDialog dialog;
-        const QList<QUrl> many = addMany(photos, 10, QSize(1200, 900));
-        QCOMPARE(run(dialog, many, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }),
-                 int(QDialog::Rejected));
+        for (const bool byStop : {true, false}) {
+            init();
+            Photos photos;
+            UrlCatcher opened;
+            BatchDialog dialog;
+            const QList<QUrl> many = addMany(photos, 10, QSize(1200, 900));
+            const int ended = run(dialog, many, [&] {
+                button(dialog, "BatchPauseButton")->click();
+                if (byStop) {
+                    button(dialog, "BatchStopButton")->click();
+                } else {
+                    QTest::keyClick(&dialog, Qt::Key_Escape);
+                }
+            });
+            QCOMPARE(ended, int(byStop ? QDialog::Accepted : QDialog::Rejected));
 
-        start(dialog, {photos.add(QStringLiteral("next.png"))});
-        QCOMPARE(opened.take().size(), 1);
-        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-        QCOMPARE(opened.take().size(), 1);
-        QVERIFY(results().contains(QStringLiteral("next.png")));
-        QVERIFY(results().size() <= many.size());
+            start(dialog, {photos.add(QStringLiteral("next.png"))});
+            QCOMPARE(opened.take().size(), 1);
+            QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+            QCOMPARE(opened.take().size(), 1);
+            QVERIFY(results().contains(QStringLiteral("next.png")));
+            QVERIFY(results().size() <= many.size());
+        }
     }
 
     void theDialogMayGoInTheMiddleOfARun()

@@ -1,20 +1,16 @@
 #include "batch/BatchThread.h"
 #include "batch/BatchWorker.h"
-#include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
 #include <atomic>
 #include <functional>
-#include <MGraphX/GraphX.h>
 #include <QBuffer>
 #include <QDir>
 #include <QMWidgets/App.h>
 #include <QMWidgets/ProtocolLog.h>
 #include <QRegularExpression>
 #include <QSignalSpy>
-
-using MGraphX::GraphX;
 
 namespace
 {
@@ -80,53 +76,26 @@ class TestBatchWorker : public QObject
     Q_OBJECT
 
 private slots:
-    void appliesTheOperationsInOrder()
-    {
-        Photos photos;
-        const QUrl photo = photos.add(QStringLiteral("a.png"), QSize(33, 21), 4);
-        Job job;
-        job.operations = {
-            {QStringLiteral("Grayscale"), QString()},
-            {QStringLiteral("Sharpen"), QStringLiteral("<P/>")},
-            {QStringLiteral("Binarization"), QStringLiteral("<P><Threshold>90</Threshold></P>")}};
-        BatchWorker worker;
-        job.giveTo(worker, {photo});
-        QSignalSpy info(&worker, &BatchWorker::updateInfo);
-        worker.slotDoWork();
-
-        const QImage source = QImage(photo.toLocalFile()).convertToFormat(QImage::Format_ARGB32);
-        const QImage expected = GraphX::binarize(GraphX::grayscale(source), 90);
-        COMPARE_IMAGES(info.first().first().value<QImage>(), expected);
-        QCOMPARE(QImage(job.results.path(QStringLiteral("a.png"))), expected);
-    }
-
-    void numbersTheFiles_data()
-    {
-        QTest::addColumn<int>("numbers");
-        QTest::addColumn<QStringList>("files");
-        QTest::newRow("all") << 0 << QStringList({"out0.bmp", "out1.bmp", "out3.bmp"});
-        QTest::newRow("odd") << 1 << QStringList({"out1.bmp", "out3.bmp", "out7.bmp"});
-        QTest::newRow("even") << 2 << QStringList({"out2.bmp", "out4.bmp", "out8.bmp"});
-        QTest::newRow("unknown") << 3 << QStringList({"a.bmp", "b.c.bmp", "d.bmp"});
-    }
-
     void numbersTheFiles()
     {
-        QFETCH(int, numbers);
+        const QStringList expected[] = {{"out0.bmp", "out1.bmp", "out3.bmp"},
+                                        {"out1.bmp", "out3.bmp", "out7.bmp"},
+                                        {"out2.bmp", "out4.bmp", "out8.bmp"},
+                                        {"a.bmp", "b.c.bmp", "d.bmp"}}; // no such numbers
         Photos photos;
-        Job job;
-        job.format = QStringLiteral("BMP");
-        job.rename = true;
-        job.numbers = numbers;
         const QList<QUrl> urls = {photos.add(QStringLiteral("a.png")),
                                   photos.add(QStringLiteral("b.c.png")),
                                   photos.addFile(QStringLiteral("bad.png"), "no picture"),
                                   photos.add(QStringLiteral("d.png"))};
         BatchWorker worker;
-        for (int run = 0; run < 2; ++run) {
+        for (int numbers = 0; numbers < 4; ++numbers) {
+            Job job;
+            job.format = QStringLiteral("BMP");
+            job.rename = true;
+            job.numbers = numbers;
             job.giveTo(worker, urls);
             worker.slotDoWork();
-            QTEST(job.files(), "files");
+            QCOMPARE(job.files(), expected[numbers]);
         }
     }
 
@@ -137,6 +106,7 @@ private slots:
         QVERIFY(noise(QSize(60, 40), 1).save(&whole, "PNG"));
         Job job;
         job.operations = {
+            {QStringLiteral("Sharpen"), QString()}, // there is none
             {QStringLiteral("Resize"), QStringLiteral("<P><Mode>0</Mode><Width>50</Width></P>")}};
         job.results.addFolder(QStringLiteral("taken.png"));
         QList<QUrl> urls = {photos.add(QStringLiteral("good one.png")),
@@ -183,77 +153,66 @@ private slots:
         }
     }
 
-    void aStopEndsTheRunBetweenPhotos_data()
-    {
-        QTest::addColumn<bool>("inPause");
-        QTest::newRow("at once") << false;
-        // The photo that waits behind the pause is still let through.
-        QTest::newRow("during a pause") << true;
-    }
-
     void aStopEndsTheRunBetweenPhotos()
     {
-        QFETCH(bool, inPause);
-        Photos photos;
-        Job job;
-        WaitingWorker worker;
-        job.giveTo(worker,
-                   {photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
-                    photos.add(QStringLiteral("c.png"))});
-        worker.m_inThirdNap = [&worker] {
-            worker.requestStop();
-        };
-        connect(&worker, &BatchWorker::updateInfo, &worker, [&](const QImage&, int index) {
-            worker.setPaused(inPause);
-            if (!inPause && index == 1) {
+        for (const bool inPause : {false, true}) {
+            Photos photos;
+            Job job;
+            WaitingWorker worker;
+            job.giveTo(worker,
+                       {photos.add(QStringLiteral("a.png")), photos.add(QStringLiteral("b.png")),
+                        photos.add(QStringLiteral("c.png"))});
+            // The photo that waits behind the pause is still let through.
+            worker.m_inThirdNap = [&worker] {
                 worker.requestStop();
-            }
-        });
-        QSignalSpy finished(&worker, &BatchWorker::finished);
-        worker.slotDoWork();
-        QCOMPARE(job.files(), QStringList({"a.png", "b.png"}));
-        QCOMPARE(finished.count(), 1);
-    }
-
-    void largePicturesAreTakenOneByOne_data()
-    {
-        QTest::addColumn<int>("side");
-        QTest::addColumn<bool>("stopped");
-        QTest::addColumn<int>("naps");
-        QTest::addColumn<int>("files");
-        QTest::newRow("large") << 4200 << false << 4 << 2;
-        QTest::newRow("stopped") << 4200 << true << 3 << 1;
-        QTest::newRow("small") << 300 << false << 0 << 2;
+            };
+            connect(&worker, &BatchWorker::updateInfo, &worker, [&](const QImage&, int index) {
+                worker.setPaused(inPause);
+                if (!inPause && index == 1) {
+                    worker.requestStop();
+                }
+            });
+            QSignalSpy finished(&worker, &BatchWorker::finished);
+            worker.slotDoWork();
+            QCOMPARE(job.files(), QStringList({"a.png", "b.png"}));
+            QCOMPARE(finished.count(), 1);
+        }
     }
 
     void largePicturesAreTakenOneByOne()
     {
-        QFETCH(int, side);
-        QFETCH(bool, stopped);
-        Photos photos;
-        Job job;
-        job.format = QStringLiteral("JPEG");
-        job.operations = {{QStringLiteral("Resize"),
-                           QStringLiteral("<P><Mode>2</Mode><Width>%1</Width><Height>%1</Height>"
-                                          "</P>")
-                               .arg(side)}};
-        WaitingWorker worker;
-        worker.awaitPictures();
-        QImage underWay;
-        connect(&worker, &BatchWorker::updateInfo, &worker,
-                [&underWay](const QImage& image) { underWay = image; });
-        worker.m_inThirdNap = [&] {
-            if (stopped) {
-                worker.requestStop();
-            } else {
-                worker.pictureTaken(underWay);
-            }
-        };
-        job.giveTo(worker, {photos.add(QStringLiteral("a.png"), QSize(1, 1)),
-                            photos.add(QStringLiteral("b.png"), QSize(1, 1))});
-        worker.slotDoWork();
-        QTEST(worker.m_naps, "naps");
-        QTEST(job.files().size(), "files");
+        const struct {
+            int side;
+            bool stopped;
+            int naps;
+            int files;
+        } rows[] = {{4200, false, 4, 2}, {4200, true, 3, 1}, {300, false, 0, 2}};
+        for (const auto& row : rows) {
+            Photos photos;
+            Job job;
+            job.format = QStringLiteral("JPEG");
+            job.operations = {
+                {QStringLiteral("Resize"), QStringLiteral("<P><Mode>2</Mode><Width>%1</Width>"
+                                                          "<Height>%1</Height></P>")
+                                               .arg(row.side)}};
+            WaitingWorker worker;
+            worker.awaitPictures();
+            QImage underWay;
+            connect(&worker, &BatchWorker::updateInfo, &worker,
+                    [&underWay](const QImage& image) { underWay = image; });
+            worker.m_inThirdNap = [&] {
+                if (row.stopped) {
+                    worker.requestStop();
+                } else {
+                    worker.pictureTaken(underWay);
+                }
+            };
+            job.giveTo(worker, {photos.add(QStringLiteral("a.png"), QSize(1, 1)),
+                                photos.add(QStringLiteral("b.png"), QSize(1, 1))});
+            worker.slotDoWork();
+            QCOMPARE(worker.m_naps, row.naps);
+            QCOMPARE(job.files().size(), row.files);
+        }
     }
 
     void aThreadLeftBeforeTheWorkEndsTheRunAllTheSame()

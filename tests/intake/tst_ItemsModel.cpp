@@ -1,11 +1,8 @@
-#include "intake/BaseNameOf.h"
 #include "intake/ItemsModel.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
 #include <QFile>
-#include <QFileInfo>
-#include <QSignalSpy>
 
 class TestItemsModel : public QObject
 {
@@ -18,37 +15,6 @@ private:
     }
 
 private slots:
-    void namesEndAtTheLastDot()
-    {
-        const struct {
-            const char* file;
-            const char* name;
-        } rows[] = {{"/a/beach.2014.jpeg", "beach.2014"},
-                    {"/a.b/beach", "beach"},
-                    {"/a/.jpeg", ""},
-                    {"/a/Żółć 写真 1.png", "Żółć 写真 1"}};
-        for (const auto& each : rows) {
-            QCOMPARE(baseNameOf(QFileInfo(QString::fromUtf8(each.file))),
-                     QString::fromUtf8(each.name));
-        }
-    }
-
-    void holdsWhatItWasGiven()
-    {
-        const QList<QUrl> urls = {QUrl::fromLocalFile(QStringLiteral("/x/a.b.png")),
-                                  QUrl::fromLocalFile(QStringLiteral("/x/a.b.png")),
-                                  QUrl(QStringLiteral("http://photos.example/c.png"))};
-        ItemsModel model;
-        model.setItems(urls);
-        QCOMPARE(model.items(), urls);
-        QCOMPARE(model.rowCount(), 3);
-        QCOMPARE(model.data(model.index(0, 0), Qt::DisplayRole).toString(), QStringLiteral("a.b"));
-        QCOMPARE(model.data(model.index(2, 0), Qt::DisplayRole).toString(), QString());
-        QCOMPARE(model.data(model.index(0, 0), Qt::SizeHintRole).toSize(), QSize(48, 48));
-        QVERIFY(!model.data(QModelIndex(), Qt::DisplayRole).isValid());
-        QCOMPARE(model.itemName(7), QString());
-    }
-
     void readableFilesHaveAThumbnail()
     {
         const QImage photo = noise(QSize(80, 40), 1);
@@ -90,13 +56,6 @@ private slots:
         QCOMPARE(thumbnail(model, 0), first);
         photos.add(QStringLiteral("late.png"));
         QVERIFY2(!thumbnail(model, 1).isNull(), "a file that gave none is tried again");
-
-        QSignalSpy changed(&model, &ItemsModel::dataChanged);
-        QVERIFY(model.setData(model.index(0, 0), QStringLiteral("file:///x/b.png"), Qt::EditRole));
-        QCOMPARE(changed.count(), 1);
-        QCOMPARE(model.itemName(0), QStringLiteral("b"));
-        QCOMPARE(thumbnail(model, 0), first);
-        QVERIFY(!model.setData(QModelIndex(), QUrl(), Qt::EditRole));
 
         model.setItems({good, late});
         QVERIFY(thumbnail(model, 0).isNull());

@@ -13,21 +13,6 @@ class TestGeometry : public QObject
     Q_OBJECT
 
 private slots:
-    void mirrorKeepsWhatTheToolkitKeeps()
-    {
-        QImage photo = randomImage({13, 7}, QImage::Format_ARGB32, RandomAlpha::Any, 1);
-        photo.setDevicePixelRatio(2);
-        photo.setOffset({1, 2});
-        for (const auto format : {QImage::Format_ARGB32, QImage::Format_Indexed8}) {
-            const QImage source = photo.convertToFormat(format);
-            const QImage mirrored = GraphX::mirror(source, true, false);
-            const QImage expected = source.mirrored(true, false);
-            COMPARE_IMAGES(mirrored, expected);
-            QCOMPARE(mirrored.devicePixelRatio(), expected.devicePixelRatio());
-            QCOMPARE(mirrored.offset(), expected.offset());
-        }
-    }
-
     void extremesGiveNoImage()
     {
         const QImage photo = randomImage({1000, 500}, QImage::Format_ARGB32, RandomAlpha::Any, 1);

@@ -33,27 +33,8 @@ private slots:
         planar.applyTable(table);
         QCOMPARE(planar.pixel(12, 6), 0x010000u);
         QCOMPARE(int(planar.plane(3)[6 * 13 + 12]), qAlpha(photo.pixel(12, 6)));
-        planar.applyTable(nullptr);
-        QCOMPARE(planar.pixel(12, 6), 0x010000u);
         planar.loadPlanes(QImage());
         QCOMPARE(planar.pixel(0, 0), 0u);
-    }
-
-    void histogramCountsOnePlane()
-    {
-        QImage photo(3, 1, QImage::Format_ARGB32);
-        photo.fill(0x11640200);
-        photo.setPixel(2, 0, 0x22650203);
-        Planar planar;
-        unsigned int bins[256];
-        std::fill_n(bins, 256, 77u);
-        planar.histogram(bins);
-        QCOMPARE(std::count(bins, bins + 256, 0u), std::ptrdiff_t(256));
-        planar.loadPlanes(photo);
-        planar.histogram(bins);
-        QVERIFY(bins[0x64] == 2 && bins[0x65] == 1);
-        planar.histogram(bins, planar.plane(3));
-        QVERIFY(bins[0x11] == 2 && bins[0x22] == 1);
     }
 
     void smallerDepths()

@@ -107,18 +107,6 @@ private slots:
                        row({0x808b8b8b, 0x00c3c3c3, 0xff565656, 0x7f1e1e1e, 0xffffffff}));
     }
 
-    void channels()
-    {
-        COMPARE_IMAGES(GraphX::grayscale(row({0x40ff0000, 0x00010100, 0xff00ff03})),
-                       row({0x40555555, 0x00000000, 0xff565656}));
-        COMPARE_IMAGES(GraphX::binarize(row({0x407f8000, 0x00ff7e7f}), 127),
-                       row({0x40ffff00, 0x00ff00ff}));
-        COMPARE_IMAGES(GraphX::swapRedBlue(row({0x80010203})), row({0x80030201}));
-        COMPARE_IMAGES(GraphX::swapRedGreen(row({0x80010203})), row({0x80020103}));
-        COMPARE_IMAGES(GraphX::swapGreenBlue(row({0x80010203})), row({0x80010302}));
-        COMPARE_IMAGES(GraphX::invert(row({0x80010203})), row({0x80fefdfc}));
-    }
-
     void histogramArgumentsCross()
     {
         // Red holds 50, 100, 150, 200: one pixel each, so a share of 50 half percents is one pixel.
@@ -144,16 +132,6 @@ private slots:
         COMPARE_IMAGES(GraphX::rotate90(photo), image({2, 3}, {out, 4, out, 5, out, 6}));
         COMPARE_IMAGES(GraphX::rotate180(photo), image({3, 2}, {out, out, out, out, 6, 5}));
         COMPARE_IMAGES(GraphX::rotate270(photo), image({2, 3}, {out, out, 3, 6, 2, 5}));
-    }
-
-    void crop()
-    {
-        const QImage photo = image({3, 3}, {1, 2, 3, 4, 5, 6, 7, 8, 9});
-        COMPARE_IMAGES(GraphX::crop(photo, 34, 0, 0, 67), image({2, 1}, {2, 3}));
-        COMPARE_IMAGES(GraphX::crop(photo, 33, 66, 67, 0), image({2, 1}, {7, 8}));
-        QCOMPARE(GraphX::crop(photo, 50, 50, 0, 0).width(), 1); // 3 / 2 pixels go on each side
-        QVERIFY(GraphX::crop(image({2, 2}, {1, 2, 3, 4}), 50, 50, 0, 0).isNull());
-        QVERIFY(GraphX::crop(photo, 0, 0, 60, 80).isNull());
     }
 
     void frameMeasuresTheWidth()

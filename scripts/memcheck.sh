@@ -26,8 +26,7 @@ functions=(
     flow/tst_flow:aFlowOfAllOperationsComesBack
     flow/tst_flow:numbersOutOfAllRangeDoNoHarm
     flow/tst_flow:aPartOfAScaledMarkIsAsInTheWhole
-    batch/tst_batch:whatCannotBeReadOrWrittenIsPassedOver
-    batch/tst_batch:eachFailureLeavesOneLineInTheLog
+    batch/tst_batch:whatFailsIsPassedOverWithOneLineInTheLog
 )
 
 # The code that regular expressions compile to reads texts in strides beyond their end, and takes no

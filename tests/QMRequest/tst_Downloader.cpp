@@ -187,16 +187,11 @@ private slots:
         QCOMPARE(downloader.get(server.host()), QByteArray());
     }
 
-    void tellsOfProgress()
+    void reckonsProgressWithoutOverflow()
     {
-        HttpServer server(HttpServer::ok("hello"));
         Downloader downloader;
         QSignalSpy bytes(&downloader, &Downloader::progress);
         QSignalSpy percent(&downloader, &Downloader::progressPercent);
-        downloader.get(server.host());
-        QCOMPARE(bytes.last().first().toInt(), 5);
-        QCOMPARE(percent.last().first().toInt(), 100);
-
         const struct {
             qint64 received, total;
             int bytes, percent;

@@ -5,9 +5,7 @@
 #include <QLocale>
 #include <QMWidgets/App.h>
 #include <QMWidgets/BuildDate.h>
-#include <QPushButton>
 #include <QScopeGuard>
-#include <QSignalSpy>
 
 using QMWidgets::App;
 
@@ -47,18 +45,6 @@ private slots:
         QVERIFY(App::app()->buildDate().isValid());
     }
 
-    void tellsOfPresses()
-    {
-        QSignalSpy presses(App::app(), &App::mouseButtonPress);
-        QPushButton button;
-        QSignalSpy clicks(&button, &QPushButton::clicked);
-        QTest::keyClick(&button, Qt::Key_A);
-        QVERIFY(presses.isEmpty());
-        QTest::mouseClick(&button, Qt::LeftButton);
-        QVERIFY(!presses.isEmpty());
-        QCOMPARE(clicks.count(), 1);
-    }
-
     void veilsTheMainWindowWhileAnotherIsActive()
     {
         App* const app = App::app();
@@ -69,17 +55,11 @@ private slots:
             app->setMainWidget(&window); // takes the first veil away
             const auto veils = window.findChildren<QWidget*>(QStringLiteral("MainWidgetBlender"));
             QCOMPARE(veils.count(), 1);
-            QVERIFY(veils.first()->isHidden());
-            window.resize(200, 100);
-            const QWidget panel(&window);
-
             QWidget other;
             other.show();
             QApplication::setActiveWindow(&other);
             app->slotFocusChanged(nullptr, nullptr);
             QVERIFY(veils.first()->isVisible());
-            QCOMPARE(veils.first()->geometry(), window.rect());
-            QCOMPARE(window.children().last(), veils.first());
             QApplication::setActiveWindow(&window);
             app->slotFocusChanged(nullptr, nullptr);
             QVERIFY(veils.first()->isHidden());

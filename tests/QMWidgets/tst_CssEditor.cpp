@@ -7,8 +7,6 @@
 #include <QMWidgets/CssDoc.h>
 #include <QMWidgets/CssEditor.h>
 #include <QTemporaryDir>
-#include <QTextBlock>
-#include <QTextLayout>
 
 using QMWidgets::CssDoc;
 using QMWidgets::CssEditor;
@@ -48,19 +46,6 @@ QByteArray contentOf(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// One letter for each sign of a line: k key word, c comment, and a dot for the rest.
-QString marks(const QTextBlock& line)
-{
-    QString marks(line.text().size(), QLatin1Char('.'));
-    for (const QTextLayout::FormatRange& range : line.layout()->formats()) {
-        const QLatin1Char mark(range.format.fontItalic() ? 'c' : 'k');
-        for (int i = range.start; i < range.start + range.length; ++i) {
-            marks[i] = mark;
-        }
-    }
-    return marks;
-}
-
 } // namespace
 
 class tst_CssEditor : public QObject
@@ -68,25 +53,6 @@ class tst_CssEditor : public QObject
     Q_OBJECT
 
 private slots:
-    void cleanup() { qApp->setStyleSheet(QString()); }
-
-    void appliesByKeyAndResets()
-    {
-        CssEditor editor;
-        editor.show();
-        QVERIFY(QTest::qWaitForWindowActive(&editor));
-        auto* const doc = editor.findChild<CssDoc*>();
-        const QString look = doc->styleSheet();
-        QCOMPARE(look, QStringLiteral("QTextEdit{background: #000060; color: yellow;}"));
-        doc->setPlainText(kSheet);
-        QTest::keyClick(doc, Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(qApp->styleSheet(), kSheet);
-        QCOMPARE(doc->styleSheet(), look);
-        QCOMPARE(doc->font().pointSize(), 12);
-        trigger(editor, "&Reset");
-        QVERIFY(qApp->styleSheet().isEmpty());
-    }
-
     void savesAndLoads()
     {
         const QTemporaryDir folder;
@@ -112,45 +78,6 @@ private slots:
         triggerWithFile(other, "&Open...", missing);
         QCOMPARE(other.findChild<CssDoc*>()->toPlainText(), QStringLiteral("/**/"));
         QCOMPARE(other.windowTitle(), path);
-    }
-
-    void toolTipsTellTheSelectorOnce()
-    {
-        CssEditor editor;
-        QPushButton button;
-        QWidget* const inner = new QWidget(&button);
-        inner->setObjectName(QStringLiteral("Inner"));
-        inner->setToolTip(QStringLiteral("Tip"));
-        for (int i = 0; i < 2; ++i) {
-            trigger(editor, "&SetInfo");
-            QCOMPARE(button.toolTip(), QString());
-            QCOMPARE(inner->toolTip(), QStringLiteral("Tip\nQWidget\nInner"));
-        }
-    }
-
-    void marksKeyWordsAndComments()
-    {
-        CssDoc doc;
-        const struct {
-            const char* text;
-            const char* marks;
-        } lines[] = {{"class a:public b{", "kkkkk...kkkkkk..."},
-                     {"classes true,Case", "........kkkk....."},
-                     {"bool/* char */char", "kkkkcccccccccckkkk"},
-                     {"x /* this", "..ccccccc"},
-                     {"const", "ccccc"},
-                     {"*/const /*/ */", "cckkkkk.cccccc"},
-                     {"emit", "kkkk"}};
-        QStringList texts;
-        for (const auto& line : lines) {
-            texts.append(QLatin1String(line.text));
-        }
-        doc.setPlainText(texts.join(QLatin1Char('\n')));
-        QTextBlock block = doc.document()->begin();
-        for (const auto& line : lines) {
-            QCOMPARE(marks(block), QLatin1String(line.marks));
-            block = block.next();
-        }
     }
 };
 

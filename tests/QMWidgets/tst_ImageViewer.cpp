@@ -1,14 +1,11 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
-#include "support/UrlCatcher.h"
 
 #include <QLabel>
-#include <QMWidgets/App.h>
 #include <QMWidgets/ImageArea.h>
 #include <QMWidgets/ImageViewer.h>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSignalSpy>
 #include <QSlider>
 
 using QMWidgets::ImageArea;
@@ -55,12 +52,6 @@ struct Viewer {
     QSlider* slider = viewer.findChild<QSlider*>(QStringLiteral("ImageViewSlider"));
 };
 
-void send(QWidget* widget, QEvent::Type type)
-{
-    QEvent event(type);
-    QCoreApplication::sendEvent(widget, &event);
-}
-
 } // namespace
 
 class tst_ImageViewer : public QObject
@@ -79,7 +70,6 @@ private slots:
             QSize label;
             const char* bars;
         } rows[] = {{"small", {30, 20}, 100, {30, 20}, size, ""},
-                    {"just smaller", {299, 199}, 100, {299, 199}, size, ""},
                     {"as wide", {300, 199}, 100, {300, 199}, size, "across "},
                     {"as high", {299, 200}, 100, {299, 200}, size, "down"},
                     {"as large", size, 100, size, size, "across down"},
@@ -145,12 +135,9 @@ private slots:
         } rows[] = {
             {"", 0, 100, "fit ", ""},
             {"37", 37, 37, "", "<H1>37%</H1>"},
-            {"37 100", 100, 100, "actual", "<H1>100%</H1>"},
-            {"ActualPixelsButton", 100, 100, "actual", "<H1>100%</H1>"},
             {"37 ActualPixelsButton", 100, 100, "actual", "<H1>100%</H1>"},
             {"ActualPixelsButton ActualPixelsButton", 100, 100, "", "<H1>100%</H1>"},
             {"37 FitToScreenButton", 0, 37, "fit ", ""},
-            {"ActualPixelsButton FitToScreenButton", 0, 100, "fit ", ""},
             {"37 FitToScreenButton FitToScreenButton", 0, 37, "", ""},
             {"37 FitToScreenButton press", 37, 37, "", "<H1>37%</H1>"},
             {"37 FitToScreenButton press release", 37, 37, "", ""},
@@ -179,64 +166,6 @@ private slots:
             QVERIFY2(v.checks() == QLatin1String(row.checks), row.acts);
             QVERIFY2(v.infoShown() == QLatin1String(row.info), row.acts);
         }
-    }
-
-    void overlayFollowsTheMouse()
-    {
-        Viewer v;
-        const auto overlay = [&v] {
-            return QLatin1String(v.button("NextImageButton")->isVisible() ? "next " : "") +
-                   QLatin1String(v.button("PreviousImageButton")->isVisible() ? "previous " : "") +
-                   v.infoShown();
-        };
-        v.viewer.setInfo(QStringLiteral("text"));
-        v.viewer.setSingleImage(false);
-        QCOMPARE(overlay(), QStringLiteral("next previous text"));
-        send(v.area, QEvent::Leave);
-        QCOMPARE(overlay(), QString());
-        send(v.area, QEvent::Enter);
-        QCOMPARE(overlay(), QStringLiteral("next previous text"));
-        v.viewer.setSingleImage(true);
-        QCOMPARE(overlay(), QString());
-        v.button("FitToScreenButton")->click();
-        send(v.area, QEvent::Enter);
-        QCOMPARE(overlay(), QStringLiteral("<H1>Fit to Window</H1>"));
-    }
-
-    void showsLoadingUntilThePictureComes()
-    {
-        Viewer v;
-        QStringList told;
-        connect(&v.viewer, &ImageViewer::next, [&] { told += QStringLiteral("next"); });
-        connect(&v.viewer, &ImageViewer::previous, [&] { told += QStringLiteral("previous"); });
-        connect(&v.viewer, &ImageViewer::infoChanged, [&] { told += QStringLiteral("info"); });
-        auto* const loading = v.label("ImageLoadingLabel");
-        for (const char* name : {"NextImageButton", "PreviousImageButton"}) {
-            QVERIFY(!loading->isVisible());
-            v.button(name)->click();
-            QVERIFY(loading->isVisible());
-            v.viewer.slotLoad(QImage());
-        }
-        QVERIFY(!loading->isVisible());
-        QCOMPARE(told, QStringList({"next", "info", "previous", "info"}));
-    }
-
-    void handsTheWholePictureToTheDesktop()
-    {
-        const QString path = QMWidgets::App::appHomeFolder(false) + QStringLiteral("preview.png");
-        Viewer v;
-        v.slider->setValue(10);
-        QSignalSpy opened(&v.viewer, &ImageViewer::systemPreviewOpened);
-        {
-            UrlCatcher desktop;
-            v.button("SysPreviewButton")->click();
-            v.viewer.slotLoad(picture(QSize(70, 50)));
-            v.button("SysPreviewButton")->click();
-            const QUrl url = QUrl::fromLocalFile(path);
-            QCOMPARE(desktop.take(), QList<QUrl>({url, url}));
-        }
-        QCOMPARE(opened.count(), 2);
-        QCOMPARE(QImage(path).convertToFormat(QImage::Format_RGB32), picture(QSize(70, 50)));
     }
 };
 

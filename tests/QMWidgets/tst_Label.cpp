@@ -3,13 +3,10 @@
 
 #include <QMWidgets/App.h>
 #include <QMWidgets/Label.h>
-#include <QMWidgets/MovieLabel.h>
 #include <QPainter>
-#include <QSignalSpy>
 
 using QMWidgets::App;
 using QMWidgets::Label;
-using QMWidgets::MovieLabel;
 
 namespace
 {
@@ -33,14 +30,6 @@ QRect boundsOf(const QImage& image)
     }
     return bounds;
 }
-
-/// Two frames of one pixel, 10 milliseconds each, over and over.
-const char kMovie[] = "GIF89a\x01\x00\x01\x00\x80\x00\x00\x00\x00\x00\xff\xff\xff"
-                      "!\xff\x0bNETSCAPE2.0\x03\x01\x00\x00\x00"
-                      "!\xf9\x04\x00\x01\x00\x00\x00,\x00\x00\x00\x00\x01\x00\x01\x00\x00"
-                      "\x02\x02\x44\x01\x00"
-                      "!\xf9\x04\x00\x01\x00\x00\x00,\x00\x00\x00\x00\x01\x00\x01\x00\x00"
-                      "\x02\x02\x4c\x01\x00;";
 
 } // namespace
 
@@ -96,31 +85,6 @@ private slots:
         QImage shown = grabbed(label).copy(QRect(QPoint(0, 10) * ratio, picture.size()));
         shown.setDevicePixelRatio(1);
         QCOMPARE(shown, picture);
-    }
-
-    void aMoviePlaysWhileShownOrForItsTime()
-    {
-        Photos files;
-        const QByteArray content(kMovie, sizeof kMovie - 1);
-        const QUrl file = files.addFile(QStringLiteral("movie.gif"), content);
-        for (const int duration : {0, 1}) {
-            MovieLabel label(file.toLocalFile());
-            label.setDuration(duration);
-            const QMovie* const movie = label.movie();
-            QSignalSpy frames(movie, &QMovie::frameChanged);
-            for (const int shown : {1, 2}) {
-                QCOMPARE(movie->state(), QMovie::NotRunning);
-                label.show();
-                QCOMPARE(movie->state(), QMovie::Running);
-                if (duration > 0) {
-                    QTRY_COMPARE(movie->state(), QMovie::NotRunning);
-                } else {
-                    QTRY_VERIFY(frames.count() > 6 * shown);
-                }
-                label.hide();
-            }
-            QCOMPARE(movie->state(), QMovie::NotRunning);
-        }
     }
 };
 

@@ -3,16 +3,11 @@
 #include "support/UrlCatcher.h"
 
 #include <QMWidgets/App.h>
-#include <QMWidgets/JoinWidget.h>
 #include <QMWidgets/MailUrl.h>
 #include <QMWidgets/MakerSite.h>
-#include <QMWidgets/OpenInFileManager.h>
-#include <QMWidgets/TellWidget.h>
 #include <QUrlQuery>
 
 using QMWidgets::App;
-using QMWidgets::JoinWidget;
-using QMWidgets::TellWidget;
 namespace MakerSite = QMWidgets::MakerSite;
 
 namespace
@@ -63,15 +58,6 @@ private slots:
         const QString name = QStringLiteral("Tessarin");
         checkLinks({{&App::slotSupportPage, nullptr, home},
                     {&App::slotTellFriend, nullptr, mail.arg(name, page + ".html")}});
-        // Without addresses there is nothing but the mail to share by.
-        QWidget parent;
-        new TellWidget(&parent);
-        new JoinWidget(&parent);
-        for (const QPushButton* button : parent.findChildren<QPushButton*>()) {
-            const bool isMail = button->objectName().startsWith(QLatin1String("Email"));
-            QCOMPARE(button->isHidden(), !isMail);
-        }
-
         app->setupWebLinks();
         app->setPromotedAppUrl(page + QStringLiteral("/promoted"));
         const QString join = home + "/apps/appscontrol/index.php?app=Tessarin&social=";
@@ -88,36 +74,6 @@ private slots:
                     {&App::slotJoin, "TwitterJoinButton", join + "twitter"},
                     {&App::slotJoin, "VKontakteJoinButton", join + "vkontakte"},
                     {&App::slotJoin, "EmailJoinButton", join + "email"}});
-
-        QCoreApplication::setApplicationName(QStringLiteral("A&B"));
-        checkLinks({{&App::slotTellFriend, nullptr, mail.arg(QStringLiteral("A&B"), page)}});
-        QCoreApplication::setApplicationName(name);
-    }
-
-    void sharingStaysOpenUntilEnter()
-    {
-        UrlCatcher catcher;
-        int result = -1;
-        withModalDialog([] { App::app()->slotShareApp(); },
-                        [&](QDialog* dialog) {
-                            dialog->findChild<QPushButton*>("EmailShareButton")->click();
-                            QVERIFY(dialog->isVisible());
-                            connect(dialog, &QDialog::finished, [&](int r) { result = r; });
-                            // Enter is the button that closes, not the first page's.
-                            QTest::keyClick(dialog, Qt::Key_Return);
-                        });
-        QCOMPARE(result, int(QDialog::Accepted));
-        QCOMPARE(catcher.take().count(), 1);
-    }
-
-    void writesToTheSupport()
-    {
-        const QString version = QCoreApplication::applicationVersion();
-        QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
-        checkLinks({{&App::slotContactUs, nullptr,
-                     QStringLiteral("mailto:%1?subject=Contact (Tessarin 1.0) %2 en I&body=")
-                         .arg(MakerSite::supportMail(), App::app()->systemName())}});
-        QCoreApplication::setApplicationVersion(version);
     }
 
     void mailFieldsStayWhole()
@@ -132,14 +88,6 @@ private slots:
         QCOMPARE(query.queryItems().count(), 2);
         QCOMPARE(query.queryItemValue(QStringLiteral("subject"), QUrl::FullyDecoded), subject);
         QCOMPARE(query.queryItemValue(QStringLiteral("body"), QUrl::FullyDecoded), body);
-    }
-
-    void showsTheFolderItself()
-    {
-        UrlCatcher catcher;
-        QMWidgets::openInFileManager(QStringLiteral("/some//where/100% #1/"));
-        const QUrl folder = QUrl::fromLocalFile(QStringLiteral("/some/where/100% #1"));
-        QCOMPARE(catcher.take(), QList<QUrl>({folder}));
     }
 };
 

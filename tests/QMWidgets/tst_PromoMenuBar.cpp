@@ -1,10 +1,8 @@
 #include "support/TestMain.h"
-#include "support/UrlCatcher.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMWidgets/App.h>
-#include <QMWidgets/MakerSite.h>
 #include <QMWidgets/PromoMenuBar.h>
 #include <QPushButton>
 #include <QTimer>
@@ -18,16 +16,6 @@ namespace
 QMenu* menuOf(const PromoMenuBar& bar, const char* button)
 {
     return bar.findChild<QPushButton*>(QLatin1String(button))->menu();
-}
-
-/// The texts of a menu; separators are dashes.
-QStringList textsOf(const QMenu* menu)
-{
-    QStringList texts;
-    for (const QAction* action : menu->actions()) {
-        texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
-    }
-    return texts;
 }
 
 void openReminder()
@@ -46,39 +34,6 @@ class tst_PromoMenuBar : public QObject
     Q_OBJECT
 
 private slots:
-    void entriesOpenAddresses()
-    {
-        const QString home = QMWidgets::MakerSite::home();
-        UrlCatcher catcher;
-        PromoMenuBar bar;
-        const QMenu* const catalogue = menuOf(bar, "MoreButton");
-        bar.addCatalogueEntry(QPixmap(), QStringLiteral("None"), QString());
-        bar.addCatalogueEntry(QPixmap(), QStringLiteral("One"), home + QStringLiteral("/1"));
-        bar.addMoreAppsEntry();
-        bar.addCatalogueEntry(QPixmap(), QStringLiteral("Two"), home + QStringLiteral("/2"));
-        QCOMPARE(textsOf(catalogue), QStringList({"One", "-", "More Apps", "-", "Two"}));
-        for (QAction* entry : catalogue->actions()) {
-            entry->trigger();
-        }
-        QCOMPARE(catcher.take(), QList<QUrl>({home + "/1", home + "/apps", home + "/2"}));
-
-        const QMenu* const menu = menuOf(bar, "AppButton");
-        QCOMPARE(textsOf(menu),
-                 QStringList({"Share", "Join Us", "More Apps", "Contacts Us", "Support Page",
-                              "Check Updates", "About", "-", "Quit"}));
-        for (const int index : {2, 3, 4}) {
-            menu->actions().at(index)->trigger();
-        }
-        const QList<QUrl> opened = catcher.take();
-        QCOMPARE(opened.count(), 3);
-        QCOMPARE(opened.at(0).path(), QStringLiteral("/apps"));
-        QCOMPARE(opened.at(1).scheme(), QStringLiteral("mailto"));
-        QCOMPARE(opened.at(2).host(), QUrl(home).host());
-        // Only a store has a use for these.
-        QVERIFY(bar.findChild<QPushButton*>(QStringLiteral("RateButton"))->isHidden());
-        QVERIFY(bar.findChild<QPushButton*>(QStringLiteral("MoreAppsButton"))->isHidden());
-    }
-
     /// With each of the dialogs open: the dialog's own loop ends, and so does the program's.
     void theProgramEndsAroundTheDialogs()
     {

@@ -4,7 +4,6 @@
 #include <QMWidgets/App.h>
 #include <QMWidgets/ProtocolLog.h>
 #include <QProcess>
-#include <QRegularExpression>
 
 namespace
 {
@@ -14,18 +13,11 @@ QString logPath()
     return QMWidgets::App::appHomeFolder(true) + QStringLiteral("protocol.log");
 }
 
-/// The log without the times and what the compiler knows of the source files.
 QString log()
 {
     QFile file(logPath());
-    if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("unreadable");
-    }
-    const QRegularExpression time(QStringLiteral("\\d\\d\\.\\d\\d\\.\\d\\d-\\d\\d:\\d\\d "));
-    const QRegularExpression source(QStringLiteral(", [^,]*\n"));
-    return QString::fromUtf8(file.readAll())
-        .replace(time, QStringLiteral("time "))
-        .replace(source, QStringLiteral(", source\n"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
+                                          : QStringLiteral("unreadable");
 }
 
 } // namespace
@@ -38,17 +30,6 @@ private slots:
     void init() { QFile::remove(logPath()); }
     void cleanup() { QDir().rmdir(logPath()); }
 
-    void formatsLines()
-    {
-        const QDateTime time(QDate(2024, 3, 5), QTime(7, 8, 9));
-        const auto line = [&](QtMsgType level) {
-            return QMWidgets::protocolLine(time, level, QStringLiteral("a %1"),
-                                           QStringLiteral("b.cpp"));
-        };
-        QCOMPARE(line(QtDebugMsg), QStringLiteral("05.03.24-07:08 Debug: a %1, b.cpp\n"));
-        QVERIFY(line(QtInfoMsg).isEmpty());
-    }
-
     void appendsMessagesOrLosesThem()
     {
         const auto logMessages = [] {
@@ -60,8 +41,9 @@ private slots:
             qInstallMessageHandler(before);
         };
         logMessages();
-        QCOMPARE(log(), QStringLiteral("time Warning: first \u00fc, source\n"
-                                       "time Critical: second, source\n"));
+        QVERIFY2(log().contains(QStringLiteral(" Warning: first \u00fc")), qPrintable(log()));
+        QVERIFY2(log().contains(QStringLiteral(" Critical: second")), qPrintable(log()));
+        QVERIFY2(!log().contains(QStringLiteral("not logged")), qPrintable(log()));
         QFile::remove(logPath());
         QVERIFY(QDir().mkdir(logPath()));
         logMessages();
@@ -75,7 +57,7 @@ private slots:
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitStatus(), QProcess::CrashExit);
         QVERIFY(!process.readAllStandardError().contains("dropped"));
-        QCOMPARE(log(), QStringLiteral("time Fatal: the end, source\n"));
+        QVERIFY2(log().contains(QStringLiteral(" Fatal: the end")), qPrintable(log()));
     }
 };
 

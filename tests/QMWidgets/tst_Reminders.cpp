@@ -1,13 +1,9 @@
 #include "support/ModalDialog.h"
 #include "support/TestMain.h"
-#include "support/UrlCatcher.h"
 
 #include <limits>
 #include <QMWidgets/App.h>
-#include <QMWidgets/JoinReminderDialog.h>
-#include <QMWidgets/RateReminderDialog.h>
 #include <QMWidgets/ReminderType.h>
-#include <QMWidgets/TellReminderDialog.h>
 
 using namespace QMWidgets;
 
@@ -104,25 +100,6 @@ private slots:
         app->setSettingsValue(kOn, false);
         app->slotCallRateReminderInternal();
         QCOMPARE(count(), 5);
-    }
-
-    void enterAnswersHarmlessly()
-    {
-        RateReminderDialog rate(nullptr);
-        TellReminderDialog tell(nullptr);
-        JoinReminderDialog join(nullptr);
-        const QPair<ReminderDialog*, int> forms[] = {{&rate, ReminderDialog::Now},
-                                                     {&tell, ReminderDialog::MaybeLater},
-                                                     {&join, ReminderDialog::MaybeLater}};
-        UrlCatcher catcher;
-        for (const auto& form : forms) {
-            form.first->show();
-            QTest::keyClick(form.first, Qt::Key_Return);
-            QCOMPARE(form.first->answer(), form.second);
-            const bool isRating = form.first == &rate;
-            QCOMPARE(buttonOf(form.first, QStringLiteral("&Rate It Now")) != nullptr, isRating);
-        }
-        QVERIFY(catcher.take().isEmpty());
     }
 
     /// The user's own dialog stays on top, and the reminder comes after it.

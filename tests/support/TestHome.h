@@ -10,9 +10,6 @@ class TestHome
 public:
     TestHome();
 
-    /// The home directory, without a slash at its end.
-    QString path() const { return m_dir.path(); }
-
 private:
     QTemporaryDir m_dir;
 };

@@ -1,6 +1,5 @@
 #include "Hands.h"
 
-#include "batch/AppSettingsDialog.h"
 #include "batch/BatchDialog.h"
 #include "flow/BaseNode.h"
 #include "flow/FavoritesDeleteDlg.h"
@@ -9,7 +8,6 @@
 #include "flow/TabLabel.h"
 #include "intake/CommonData.h"
 #include "intake/CreatorDropArea.h"
-#include "intake/ListView.h"
 #include "preview/ImagePreview.h"
 #include "preview/ImageViewDialog.h"
 #include "Program.h"
@@ -26,7 +24,6 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTimerEvent>
-#include <QWheelEvent>
 
 namespace
 {
@@ -46,19 +43,15 @@ Hands::Hands(Program& program, const QList<QUrl>& photos, quint32 seed, int acti
           {10, "remove", [this] { press("PushButtonRemove"); }},
           {6, "click a tab", [this] { dragTab(0); }},
           {10, "drag a tab", [this] { dragTab(1 + upTo(8)); }},
-          {4, "step along the tabs", [this] { stepAlongTabs(); }},
           {5, "flows", [this] { chooseFavorite(0, kCommandsOfFavorites); }},
           {5, "load", [this] { chooseFavorite(kCommandsOfFavorites, -1); }},
           {20, "slider", [this] { moveSlider(); }},
           {15, "control", [this] { setControl(); }},
           {8, "step", [this] { step(); }},
-          {3, "strip or square", [this] { press("IconViewButton"); }},
-          {3, "strip", [this] { clickStrip(); }},
           {4, "drop", [this] { dropPhotos(); }},
           {5, "bubble", [this] { showBubble(); }},
           {3, "large view", [this] { press("PreviewButton"); }},
           {1, "batch", [this] { runBatch(); }},
-          {1, "settings", [this] { press("SettingsButton"); }},
           {1, "open photos", [this] { square()->slotOpenClicked(); }},
       },
       m_program(program),
@@ -238,19 +231,6 @@ void Hands::dragTab(int moves)
     QTest::mouseRelease(m_bar, Qt::LeftButton, Qt::NoModifier, place);
 }
 
-void Hands::stepAlongTabs()
-{
-    const int by = upTo(2) == 0 ? 1 : -1;
-    if (upTo(2) == 0) {
-        QTest::keyClick(m_bar, by > 0 ? Qt::Key_Right : Qt::Key_Left);
-        return;
-    }
-    const QPoint place = m_bar->rect().center();
-    QWheelEvent wheel(place, m_bar->mapToGlobal(place), QPoint(), QPoint(0, by * 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(m_bar, &wheel);
-}
-
 void Hands::moveSlider()
 {
     // The far end of some ranges makes pictures that take their time and show nothing more.
@@ -285,14 +265,6 @@ void Hands::step()
     const QWidget* const panels[] = {m_program.page->findChild<ImagePreview*>(), square()};
     const auto name = QLatin1String(upTo(2) == 0 ? "NextImageButton" : "PreviousImageButton");
     panels[upTo(2)]->findChild<QPushButton*>(name)->click();
-}
-
-void Hands::clickStrip()
-{
-    auto* const strip = m_program.page->findChild<ListView*>();
-    if (strip->isVisible()) {
-        QTest::keyClick(strip, upTo(2) == 0 ? Qt::Key_Down : Qt::Key_Up);
-    }
 }
 
 void Hands::dropPhotos()
@@ -343,10 +315,6 @@ void Hands::answer(QDialog* dialog)
         }
     } else if (auto* const list = dialog->findChild<QListWidget*>()) {
         list->setCurrentRow(upTo(1 + list->count()) - 1);
-    } else if (qobject_cast<AppSettingsDialog*>(dialog)) {
-        for (QComboBox* box : dialog->findChildren<QComboBox*>()) {
-            box->setCurrentIndex(upTo(box->count()));
-        }
     } else {
         press(oneOf(dialog->findChildren<QAbstractButton*>()));
         return;

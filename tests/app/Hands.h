@@ -60,11 +60,9 @@ private:
     void addNode();
     void chooseFavorite(int first, int count);
     void dragTab(int moves);
-    void stepAlongTabs();
     void moveSlider();
     void setControl();
     void step();
-    void clickStrip();
     void dropPhotos();
     void showBubble();
     void runBatch();

@@ -35,6 +35,13 @@ double luminance(const QColor& color)
            0.0722 * linear(color.blueF());
 }
 
+double contrast(const QColor& one, const QColor& other)
+{
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return a > b ? a / b : b / a;
+}
+
 QImage pictureOf(QWidget* window)
 {
     QImage image(window->size() * kRatio, QImage::Format_RGB32);
@@ -67,13 +74,6 @@ TextContrast measure(const QWidget* widget, const QVector<Spot>& spots)
 }
 
 } // namespace
-
-double contrast(const QColor& one, const QColor& other)
-{
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return a > b ? a / b : b / a;
-}
 
 QList<TextContrast> textContrasts(QWidget* window)
 {

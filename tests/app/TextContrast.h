@@ -6,15 +6,12 @@
 
 class QWidget;
 
-/// The ratio of two colours' luminances, 1 to 21, as the guidelines for accessible content have it.
-double contrast(const QColor& one, const QColor& other);
-
 /// How well the text of a widget is told from what lies below it.
 struct TextContrast {
     const QWidget* widget = nullptr;
     QColor text;
-    QColor ground; ///< where it comes nearest to the text
-    double ratio = 21;
+    QColor ground;     ///< where it comes nearest to the text
+    double ratio = 21; ///< of luminances, as the guidelines for accessible content have it
 };
 
 /// Measures the texts of all enabled widgets that a window shows, from pictures of it with its

@@ -1,17 +1,14 @@
-#include "app/MainPage.h"
 #include "app/Startup.h"
-#include "flow/BaseNode.h"
-#include "flow/FlowPanel.h"
+#include "flow/InitLabel.h"
 #include "support/TestMain.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QGroupBox>
 #include <QMap>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QMWidgets/App.h>
-#include <QPainter>
+#include <QMWidgets/MovieLabel.h>
+#include <QMWidgets/StepButtons.h>
+#include <QPushButton>
 #include <QSlider>
 
 namespace
@@ -19,24 +16,11 @@ namespace
 
 const QColor kDesk(71, 71, 71);
 
-QImage imageOf(QWidget* widget)
+/// Lets the application and the widgets hear of it.
+void readFromRight(bool fromRight)
 {
-    QImage image(widget->size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(kDesk);
-    QPainter painter(&image);
-    widget->render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
-    return image;
-}
-
-int countPixels(const QImage& image, const QColor& color)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            count += image.pixel(x, y) == color.rgb() ? 1 : 0;
-        }
-    }
-    return count;
+    QGuiApplication::setLayoutDirection(fromRight ? Qt::RightToLeft : Qt::LeftToRight);
+    QCoreApplication::processEvents();
 }
 
 } // namespace
@@ -48,37 +32,8 @@ class TestDeskStyle : public QObject
 
 private slots:
     void initTestCase() { setUpApplication(*QMWidgets::App::app()); }
+    void cleanup() { readFromRight(false); }
     void cleanupTestCase() { qApp->setStyleSheet(QString()); }
-
-    void slidersKeepTheirTicks()
-    {
-        QSlider slider(Qt::Horizontal);
-        slider.setRange(-100, 100);
-        slider.setTickInterval(20);
-        slider.resize(220, 26);
-        slider.ensurePolished();
-        const QColor fill = slider.palette().color(QPalette::Highlight);
-        const QColor ticks = slider.palette().color(QPalette::WindowText);
-
-        slider.setValue(0);
-        const int rimOnly = countPixels(imageOf(&slider), ticks);
-        QCOMPARE(countPixels(imageOf(&slider), fill), 0);
-        slider.setTickPosition(QSlider::TicksAbove);
-        const int oneSide = countPixels(imageOf(&slider), ticks) - rimOnly;
-        slider.setTickPosition(QSlider::TicksBothSides);
-        // Eleven ticks above; the handle stands over the one in the middle.
-        QVERIFY2(oneSide >= 30 && oneSide <= 33, qPrintable(QString::number(oneSide)));
-        QCOMPARE(countPixels(imageOf(&slider), ticks) - rimOnly, 2 * oneSide);
-
-        // Filled from zero to the handle on either side; nothing beyond a handle at an end.
-        slider.setValue(100);
-        const QImage full = imageOf(&slider);
-        QVERIFY(countPixels(full, fill) > 0);
-        QCOMPARE(countPixels(full.copy(0, 0, 108, 26), fill), 0);
-        slider.setRange(1, 100);
-        slider.setValue(1);
-        QCOMPARE(countPixels(imageOf(&slider), fill), 0);
-    }
 
     void ticksAreEvenBetweenWholeRatios()
     {
@@ -130,32 +85,34 @@ private slots:
         }
     }
 
-    void theWatermarkPageStaysPutWhenItsKindChanges()
+    void stepButtonsPointTheWayOfReading()
     {
-        MainPage page(nullptr);
-        auto* const node = page.findChild<FlowPanel*>()->addNode(QStringLiteral("Watermark"));
-        page.show();
-        auto* const kind = node->findChild<QComboBox*>();
-        auto* const box = node->findChild<QGroupBox*>();
-        const auto placeOf = [&page](QWidget* widget) {
-            return QRect(widget->mapTo(&page, QPoint(0, 0)), widget->size());
-        };
-        const QRect boxInText = placeOf(box);
-        const QRect kindInText = placeOf(kind);
-        kind->setCurrentIndex(1);
-        QTRY_VERIFY(placeOf(kind).top() != kindInText.top()); // fewer rows, in the middle again
-        QCOMPARE(placeOf(box), boxInText);
-        QCOMPARE(placeOf(kind).left(), kindInText.left());
-        QVERIFY(page.rect().contains(boxInText));
+        QWidget window;
+        QPushButton* const next = QMWidgets::makeNextButton(&window);
+        QPushButton* const previous = QMWidgets::makePreviousButton(&window);
+        next->setFocusPolicy(Qt::NoFocus);
+        previous->setFocusPolicy(Qt::NoFocus);
+        window.show();
+        const QImage right = next->grab().toImage();
+        const QImage left = previous->grab().toImage();
+        QVERIFY(left != right);
+        readFromRight(true);
+        QCOMPARE(next->grab().toImage(), left);
+        QCOMPARE(previous->grab().toImage(), right);
     }
 
-    void menusLetTheirCornersThrough()
+    void theArrowStandsAtTheAddButton()
     {
-        QMenu menu;
-        menu.addAction(QStringLiteral("Entry"));
-        menu.resize(menu.sizeHint());
-        QCOMPARE(menu.grab().toImage().pixelColor(0, 0).alpha(), 0);
-        QCOMPARE(menu.grab().toImage().pixelColor(menu.rect().center()).alpha(), 255);
+        InitLabel label(nullptr);
+        label.resize(735, 175);
+        label.show();
+        const auto* const arrow = label.findChild<QMWidgets::MovieLabel*>();
+        readFromRight(true);
+        QTRY_VERIFY(arrow->x() > 600);
+        QCOMPARE(arrow->movie()->state(), QMovie::Running);
+        readFromRight(false);
+        QTRY_VERIFY(arrow->x() < 10);
+        QCOMPARE(arrow->movie()->state(), QMovie::Running);
     }
 };
 

@@ -1,15 +1,12 @@
+#include "app/HelpSlides.h"
 #include "app/MainPage.h"
-#include "app/Startup.h"
-#include "flow/BaseNode.h"
-#include "flow/NodesOptionsPanel.h"
-#include "flow/Operations.h"
 #include "support/TestMain.h"
 #include <QMWidgets/App.h>
 #include <QMWidgets/TranslationsManager.h>
 
 #include <QDomDocument>
 #include <QFile>
-#include <QLocale>
+#include <QImage>
 #include <QPushButton>
 #include <QRegularExpression>
 
@@ -148,34 +145,18 @@ private slots:
         }
     }
 
-    void operationPagesFitTheirPlace_data()
+    void eachLanguageHasItsSlides()
     {
-        QTest::addColumn<QString>("code");
-        for (const QString& code : TranslationsManager::translatedCodes()) {
-            QTest::newRow(qPrintable(code)) << code;
+        const QString folder = QStringLiteral(TESSARIN_SLIDES_FOLDER);
+        const QPair<QString, QString> rows[] = {{"de", "de"}, {"ru", "ru"}, {"fr", "en"}};
+        for (const auto& row : rows) {
+            const QStringList slides = helpSlides(row.first, folder);
+            QCOMPARE(slides.size(), 12);
+            QVERIFY2(slides.first().endsWith(row.second + ".jpeg"), qPrintable(slides.first()));
+            for (const QString& slide : slides) {
+                QVERIFY2(QImage(slide).size() == QSize(1600, 1200), qPrintable(slide));
+            }
         }
-    }
-
-    void operationPagesFitTheirPlace()
-    {
-        QFETCH(QString, code);
-        setUpApplication(*App::app());
-        TranslationsManager::instance()->setLanguage(code);
-        MainPage page(nullptr);
-        auto* panel = page.findChild<NodesOptionsPanel*>();
-        for (const Operation& operation : operations()) {
-            panel->createNode(operation.name);
-        }
-        page.show();
-        for (BaseNode* node : page.findChildren<BaseNode*>()) {
-            panel->slotShowOptions(node);
-            QCoreApplication::processEvents();
-            const int spare = node->width() - node->minimumSizeHint().width();
-            QVERIFY2(
-                spare >= 0,
-                qPrintable(QStringLiteral("%1 lacks %2 pixels").arg(node->name()).arg(-spare)));
-        }
-        qApp->setStyleSheet(QString());
     }
 
     void aStandingWindowFollows()

@@ -128,6 +128,16 @@ bool hasName(const QWidget* control)
            (button && !button->text().isEmpty()) || (group && !group->title().isEmpty());
 }
 
+/// Whether what a caption names takes the keyboard, itself or by what stands in for it.
+bool leadsToControl(const QLabel* caption)
+{
+    const QWidget* buddy = caption->buddy();
+    while (buddy && buddy->focusProxy()) {
+        buddy = buddy->focusProxy();
+    }
+    return buddy && (buddy->focusPolicy() & Qt::TabFocus);
+}
+
 } // namespace
 
 /// All windows in the hands of somebody without a mouse.
@@ -177,6 +187,11 @@ private slots:
                 }
                 if (!hasName(control)) {
                     wrong += QStringLiteral("nameless: ") + named(control);
+                }
+            }
+            for (const QLabel* const label : window->findChildren<QLabel*>()) {
+                if (label->text().endsWith(QLatin1Char(':')) && !leadsToControl(label)) {
+                    wrong += QStringLiteral("no buddy: ") + named(label) + label->text();
                 }
             }
         });

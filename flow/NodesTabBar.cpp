@@ -30,7 +30,9 @@ void NodesTabBar::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        emit previewAsked();
+        if (!event->isAutoRepeat()) {
+            emit previewAsked();
+        }
         return;
     case Qt::Key_Left:
     case Qt::Key_Right:

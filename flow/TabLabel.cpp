@@ -64,6 +64,7 @@ void TabLabel::slotShowPreview()
     }
     // A press of the mouse has closed an open bubble by now, but a key may have brought us here.
     m_bubble->hide();
+    ignoreKeys();
     m_bubble->setPixmap(pixmap());
 
     const double ratio = QMWidgets::App::devicePixelRatio();
@@ -93,21 +94,28 @@ void TabLabel::showPreviewToKeys(QWidget* focused)
 
 bool TabLabel::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isKey = event->type() == QEvent::KeyPress;
+    // A key that is held down is still the one that opened the bubble.
+    const bool isKey =
+        event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->isAutoRepeat();
     const bool isLeave = event->type() == QEvent::FocusOut && !m_bubble->isActiveWindow();
     if (!isKey && !isLeave) {
         return QMWidgets::Label::eventFilter(watched, event);
     }
     const bool wasOpen = m_bubble->isVisible();
     m_bubble->hide();
-    m_bubble->removeEventFilter(this);
-    if (m_focused) {
-        m_focused->removeEventFilter(this);
-    }
+    ignoreKeys();
     // A key that steps on does so; any other has done its work by closing the bubble.
     const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
     return isKey && wasOpen && key != Qt::Key_Left && key != Qt::Key_Right && key != Qt::Key_Tab &&
            key != Qt::Key_Backtab;
+}
+
+void TabLabel::ignoreKeys()
+{
+    m_bubble->removeEventFilter(this);
+    if (m_focused) {
+        m_focused->removeEventFilter(this);
+    }
 }
 
 QPropertyAnimation* TabLabel::makeFlight(const QRect& from, const QRect& to) const

@@ -33,6 +33,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    /// Leaves the bubble to the mouse again.
+    void ignoreKeys();
     /// Makes a flight of the bubble between two places on the screen.
     QPropertyAnimation* makeFlight(const QRect& from, const QRect& to) const;
 

@@ -281,6 +281,11 @@ private slots:
             QVERIFY(bubble->isHidden());
             QCOMPARE(bar->currentIndex(), 0);
         }
+        // A bubble that the mouse opened is not the keys' concern, whoever opened it before.
+        label->showPreviewToKeys(bar);
+        label->slotShowPreview();
+        QTest::keyClick(bar, Qt::Key_Escape);
+        QVERIFY(bubble->isVisible());
     }
 
     void arrowsGoThroughAGridAsItStands()

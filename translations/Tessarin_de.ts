@@ -13,7 +13,7 @@
     </message>
     <message>
         <source> Settings</source>
-        <translation> Einstellungen</translation>
+        <translation> – Einstellungen</translation>
     </message>
     <message>
         <source>Ok</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source> Batch Process</source>
-        <translation> Stapelverarbeitung</translation>
+        <translation> – Stapelverarbeitung</translation>
     </message>
     <message>
         <source>Progress</source>

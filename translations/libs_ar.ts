@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>Abort</source>
-        <translation>إجهاض</translation>
+        <translation>إحباط</translation>
     </message>
     <message>
         <source>Retry</source>

@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>Operations</source>
-        <translation>Schritte</translation>
+        <translation>Aktionen</translation>
     </message>
     <message>
         <source>&amp;SetInfo</source>

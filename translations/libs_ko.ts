@@ -283,7 +283,7 @@
     <name>QMWidgets::JoinWidget</name>
     <message>
         <source>Join us and stay informed&lt;br&gt;about our</source>
-        <translation>함께하고 새 소식을 받아 보세요&lt;br&gt;아래의 소식을</translation>
+        <translation>함께하며 다음 소식을&lt;br&gt;받아 보세요</translation>
     </message>
     <message>
         <source>   1. FREE APP Actions&lt;br&gt;</source>

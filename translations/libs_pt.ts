@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>&amp;Hide</source>
-        <translation>&amp;Ocultar</translation>
+        <translation>Ocu&amp;ltar</translation>
     </message>
     <message>
         <source>Legal Notices</source>

@@ -41,7 +41,7 @@ private:
     QPushButton* m_previewButton;
     BubblePreview* m_bubble;
     QPointer<QWidget> m_focused; ///< where the keyboard was when it opened the bubble
-    // The bubble's animations, gone when they have stopped.
+    // The bubble's animations, kept until it is opened anew.
     QPointer<QPropertyAnimation> m_flightOut;
     QPointer<QPropertyAnimation> m_flightHome;
 };

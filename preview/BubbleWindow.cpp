@@ -12,7 +12,7 @@ constexpr double kHalfPointerWidth = 20.0;
 void startIfSet(QAbstractAnimation* animation)
 {
     if (animation) {
-        animation->start(QAbstractAnimation::DeleteWhenStopped);
+        animation->start(QAbstractAnimation::KeepWhenStopped);
     }
 }
 

@@ -17,9 +17,8 @@ public:
 
     explicit BubbleWindow(QWidget* parent);
 
-    /// Animations that start when the window shows and when it hides. One that has run is deleted
-    /// as it stops; one that never starts stays the caller's. May be null, and are forgotten when
-    /// they are deleted.
+    /// Animations that start whenever the window shows and whenever it hides. They stay the
+    /// caller's, may be null, and are forgotten when they are deleted.
     void setShowAnimation(QAbstractAnimation* animation) { m_showAnimation = animation; }
     void setHideAnimation(QAbstractAnimation* animation) { m_hideAnimation = animation; }
     QAbstractAnimation* showAnimation() const { return m_showAnimation; }

@@ -105,8 +105,7 @@ void BatchDialog::startBatch(const QVector<QPair<QString, QString>>& operations)
 /// signals on their way. Both have to arrive before the next run, or they would end that one.
 void BatchDialog::endFormerRun()
 {
-    slotStop();
-    m_thread.waitUntilLeft();
+    m_thread.leave();
     QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 

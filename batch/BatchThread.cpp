@@ -7,7 +7,8 @@
 
 namespace
 {
-constexpr int kStartDelay = 100; // milliseconds, in which the dialog comes up
+constexpr int kStartDelay = 100;         // milliseconds, in which the dialog comes up
+constexpr unsigned long kStopPoll = 100; // milliseconds
 } // namespace
 
 BatchThread::BatchThread()
@@ -18,15 +19,18 @@ BatchThread::BatchThread()
 
 BatchThread::~BatchThread()
 {
-    m_worker->requestStop();
-    quit();
-    waitUntilLeft();
+    leave();
     delete m_worker;
 }
 
-void BatchThread::waitUntilLeft()
+void BatchThread::leave()
 {
-    wait();
+    // Again and again, since a run that just begins forgets a stop from before. It would go on, and
+    // wait for pictures to be taken by the very thread that waits here.
+    do {
+        m_worker->requestStop();
+        quit();
+    } while (!wait(kStopPoll));
     Q_ASSERT(m_left);
     static_cast<void>(m_left.load());
 }

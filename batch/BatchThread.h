@@ -12,12 +12,13 @@ class BatchThread : public QThread
 
 public:
     BatchThread();
-    /// Stops a run that is under way and waits for the photo in hand.
+    /// Leaves, as below.
     ~BatchThread() override;
 
     BatchWorker* worker() const { return m_worker; }
-    /// Waits until the thread stands still, as QThread::wait() does.
-    void waitUntilLeft();
+    /// Stops a run that is under way, and waits for the photo in hand and until the thread stands
+    /// still.
+    void leave();
 
 protected:
     void run() override;

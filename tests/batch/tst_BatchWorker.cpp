@@ -226,8 +226,7 @@ private slots:
             thread.worker(), &BatchWorker::finished, thread.worker(), [&finished] { ++finished; },
             Qt::DirectConnection);
         thread.start();
-        thread.quit();
-        thread.waitUntilLeft();
+        thread.leave();
         QCOMPARE(finished.load(), 1);
         QCOMPARE(job.files(), QStringList());
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <QDialog>
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
@@ -134,8 +135,10 @@ void DeskStyle::polish(QWidget* widget)
                                     Qt::NoDropShadowWindowHint);
         widget->setAttribute(Qt::WA_TranslucentBackground);
     }
-    // In dialogs Enter presses the button that has the keyboard; so it does elsewhere.
-    if (auto* const button = qobject_cast<QPushButton*>(widget)) {
+    // In dialogs Enter presses the button that has the keyboard, unless the dialog forbids it; so
+    // it does elsewhere.
+    auto* const button = qobject_cast<QPushButton*>(widget);
+    if (button && !qobject_cast<QDialog*>(button->window())) {
         button->setAutoDefault(true);
     }
 }
@@ -175,10 +178,10 @@ void DeskStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
                              const QPalette& palette, bool enabled, const QString& text,
                              QPalette::ColorRole textRole) const
 {
-    // A sheet's button beside whose icon a text ends at the right means the right of the screen,
-    // which the painter would mirror once more.
+    // A button that ends its text beside its icon at the right means the right of the screen, which
+    // the painter would mirror once more. All others say that they do: by AlignAbsolute.
     constexpr int kOfButton = Qt::AlignRight | Qt::TextShowMnemonic;
-    if ((flags & kOfButton) == kOfButton) {
+    if ((flags & (kOfButton | Qt::AlignAbsolute)) == kOfButton) {
         QProxyStyle::drawItemText(painter, rect.translated(-kCaptionGap, 0),
                                   flags | Qt::AlignAbsolute, palette, enabled, text, textRole);
         return;

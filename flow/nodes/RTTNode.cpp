@@ -30,14 +30,15 @@ RTTNode::RTTNode(const QString& name, QWidget* parent)
     m_leftButton->setAccessibleName(tr("Rotate left"));
     m_leftButton->setFlat(true);
 
-    auto* layout = new QHBoxLayout;
+    auto* row = new QWidget;
     // Left and right are those of the photo, whichever way the interface is read.
-    layout->setDirection(isRightToLeft() ? QBoxLayout::RightToLeft : QBoxLayout::LeftToRight);
+    row->setLayoutDirection(Qt::LeftToRight);
+    auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_leftButton);
     layout->addWidget(m_rightButton);
-    optionsLayout()->addLayout(layout);
+    optionsLayout()->addWidget(row);
 
     connect(m_rightButton, &QPushButton::clicked, this, &RTTNode::slotRightClicked);
     connect(m_leftButton, &QPushButton::clicked, this, &RTTNode::slotLeftClicked);

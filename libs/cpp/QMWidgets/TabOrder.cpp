@@ -1,6 +1,6 @@
 #include "TabOrder.h"
 
-#include <QBoxLayout>
+#include <QLayout>
 #include <QList>
 #include <QWidget>
 
@@ -16,12 +16,8 @@ void addStops(QWidget* widget, Stops& stops);
 
 void addStops(QLayout* layout, Stops& stops, QList<QObject*>& seen)
 {
-    const auto* const box = qobject_cast<QBoxLayout*>(layout);
-    const bool fromTheEnd = box && (box->direction() == QBoxLayout::RightToLeft ||
-                                    box->direction() == QBoxLayout::BottomToTop);
-    const int count = layout->count();
-    for (int i = 0; i < count; ++i) {
-        QLayoutItem* const item = layout->itemAt(fromTheEnd ? count - 1 - i : i);
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem* const item = layout->itemAt(i);
         if (QWidget* const widget = item->widget()) {
             seen += widget;
             addStops(widget, stops);

@@ -50,8 +50,8 @@ void NodesTabBar::keyPressEvent(QKeyEvent* event)
 
 void NodesTabBar::moveCurrentTab(int key)
 {
-    const bool isForward = (key == Qt::Key_Right) == (layoutDirection() == Qt::LeftToRight);
-    const int target = currentIndex() + (isForward ? 1 : -1);
+    const Qt::Key forward = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
+    const int target = currentIndex() + (key == forward ? 1 : -1);
     if (target >= 0 && target < count()) {
         moveTab(currentIndex(), target);
     }

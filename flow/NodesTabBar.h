@@ -34,6 +34,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    /// By one place, to the side of the arrow `key`; at an end it stays.
     void moveCurrentTab(int key);
 
     bool m_movingTabs = false;

@@ -27,6 +27,13 @@ QSize bubbleSize(int width, int height)
     return picture + QSize(0, BubbleWindow::kPointerHeight);
 }
 
+/// Whether a key leads the keyboard on, to another tab or out of the bar.
+bool leadsOn(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Tab ||
+           key == Qt::Key_Backtab;
+}
+
 } // namespace
 
 TabLabel::TabLabel(QWidget* parent)
@@ -94,9 +101,9 @@ void TabLabel::showPreviewToKeys(QWidget* focused)
 
 bool TabLabel::eventFilter(QObject* watched, QEvent* event)
 {
-    // A key that is held down is still the one that opened the bubble.
-    const bool isKey =
-        event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->isAutoRepeat();
+    auto* const key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+    // One that is held down goes on being the one that has opened the bubble.
+    const bool isKey = key && !key->isAutoRepeat();
     const bool isLeave = event->type() == QEvent::FocusOut && !m_bubble->isActiveWindow();
     if (!isKey && !isLeave) {
         return QMWidgets::Label::eventFilter(watched, event);
@@ -104,10 +111,8 @@ bool TabLabel::eventFilter(QObject* watched, QEvent* event)
     const bool wasOpen = m_bubble->isVisible();
     m_bubble->hide();
     ignoreKeys();
-    // A key that steps on does so; any other has done its work by closing the bubble.
-    const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
-    return isKey && wasOpen && key != Qt::Key_Left && key != Qt::Key_Right && key != Qt::Key_Tab &&
-           key != Qt::Key_Backtab;
+    // A key that leads on does so; any other has done its work by closing the bubble.
+    return isKey && wasOpen && !leadsOn(key->key());
 }
 
 void TabLabel::ignoreKeys()

@@ -6,17 +6,9 @@
 #include <QPixmap>
 #include <QVBoxLayout>
 
-namespace
-{
-
-const QString kArrow = QStringLiteral(":/arrow.gif");
-const QString kArrowFromRight = QStringLiteral(":/arrow_rtl.gif");
-
-} // namespace
-
 InitLabel::InitLabel(QWidget* parent)
     : QMWidgets::Label(parent),
-      m_arrow(new QMWidgets::MovieLabel(kArrow, this))
+      m_arrow(new QMWidgets::MovieLabel(QString(), this))
 {
     m_arrow->setDuration(10000);
     m_arrow->setFixedSize(100, 100);
@@ -40,5 +32,6 @@ void InitLabel::showPictures()
     const bool fromRight = isRightToLeft();
     setPixmap(QPixmap(fromRight ? QStringLiteral(":/initlabel_ar.png")
                                 : QStringLiteral(":/initlabel_en.png")));
-    m_arrow->setFileName(fromRight ? kArrowFromRight : kArrow);
+    m_arrow->setFileName(fromRight ? QStringLiteral(":/arrow_rtl.gif")
+                                   : QStringLiteral(":/arrow.gif"));
 }

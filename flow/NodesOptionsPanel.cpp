@@ -22,7 +22,7 @@ constexpr int kPreviewWidth = 360;
 
 NodesOptionsPanel::NodesOptionsPanel(QWidget* parent)
     : QFrame(parent),
-      m_initLabel(new InitLabel(nullptr)),
+      m_initLabel(new InitLabel(this)),
       m_stack(new QStackedWidget(this))
 {
     setMinimumHeight(175);

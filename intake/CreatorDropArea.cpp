@@ -199,13 +199,15 @@ void CreatorDropArea::dropEvent(QDropEvent* event)
 void CreatorDropArea::keyPressEvent(QKeyEvent* event)
 {
     // The buttons change sides where one reads from the right.
-    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const Qt::Key forward = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;
     switch (event->key()) {
     case Qt::Key_Left:
-        isMirrored ? slotNext() : slotPreviuos();
-        break;
     case Qt::Key_Right:
-        isMirrored ? slotPreviuos() : slotNext();
+        if (event->key() == forward) {
+            slotNext();
+        } else {
+            slotPreviuos();
+        }
         break;
     case Qt::Key_Home:
         slotGotoFirst();

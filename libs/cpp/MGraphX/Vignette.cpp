@@ -66,6 +66,18 @@ std::vector<int> pairedOrder(const std::vector<int>& places, const GradientRows&
     return order;
 }
 
+/// Lays `over` over `under`. Of straight words only the first `fast` are done, the others stay.
+void layRow(const uint32_t* over, const uint32_t* under, uint32_t* target, int width, int fast,
+            bool premultiplied)
+{
+    if (premultiplied) {
+        kernels::sourceOverRow(over, under, target, width);
+        return;
+    }
+    kernels::straightOverRow(over, under, target, fast);
+    std::copy(under + fast, under + width, target + fast);
+}
+
 /// Lays what the painter would sample of the square over `source` if it is free, else over a copy,
 /// row by row. The painter itself gets the words that the kernels leave, all at once.
 QImage withSampledRows(QImage source, const VignetteLook& look)
@@ -102,18 +114,13 @@ QImage withSampledRows(QImage source, const VignetteLook& look)
                            [over](int place) { return over[place]; });
             over = sampled.data();
         }
-        uint32_t* target = targetRow(result, y);
-        if (premultiplied) {
-            kernels::sourceOverRow(over, under, target, width);
-        } else {
-            kernels::straightOverRow(over, under, target, fast);
-            std::copy(under + fast, under + width, target + fast);
-        }
+        layRow(over, under, targetRow(result, y), width, fast, premultiplied);
         if (!rest.isNull()) {
             std::copy(over + fast, over + width, targetRow(rest, y));
         }
     }
-    for (int y = int(rows.size()); y < result.height() && !inPlace; ++y) {
+    // What lies beyond the painted rows; in place it is there.
+    for (int y = int(rows.size()); !inPlace && y < result.height(); ++y) {
         std::copy_n(sourceRow(source, y), width, targetRow(result, y));
     }
     paintOver(rest, result, fast);

@@ -4,6 +4,7 @@
 #include "scenes/Scenes.h"
 #include "Stage.h"
 
+#include <QAbstractAnimation>
 #include <QPushButton>
 
 void showBubbles(Stage& stage)
@@ -28,8 +29,11 @@ void showBubbles(Stage& stage)
         stage.shoot(QStringLiteral("button"));
         stage.click(button);
         stage.waitFor(
-            // Its flight is gone when it has arrived.
-            [bubble] { return bubble->isVisible() && !bubble->showAnimation(); },
+            [bubble] {
+                const QAbstractAnimation* const flight = bubble->showAnimation();
+                return bubble->isVisible() && flight &&
+                       flight->state() == QAbstractAnimation::Stopped;
+            },
             QStringLiteral("the bubble"));
         stage.shootTogether(QStringLiteral("bubble"), {stage.page(), bubble});
         // A press is enough, wherever it falls: here on the free place of the bar.

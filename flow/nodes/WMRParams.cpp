@@ -83,13 +83,13 @@ WMRParams WMRParams::fromXml(const QString& xml)
     WMRParams params;
     params.imageName = WMRXml::defaultMarkName();
     QString imageData;
-    ParameterReader::forEachElement(xml, [&](const QString& tag, const QString& text) {
-        if (tag == QLatin1String(WMRXml::kImageData) && !text.isEmpty()) {
-            imageData = text;
+    ParameterReader::forEachElement(xml, [&](const QString& tag, const QString& value) {
+        if (tag == QLatin1String(WMRXml::kImageData) && !value.isEmpty()) {
+            imageData = value;
         }
         for (const Element& element : kElements) {
             if (tag == QLatin1String(element.tag)) {
-                element.read(text, params);
+                element.read(value, params);
             }
         }
     });

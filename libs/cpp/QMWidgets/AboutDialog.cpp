@@ -40,7 +40,7 @@ AboutDialog::AboutDialog(QWidget* parent)
     setWindowTitle(QCoreApplication::applicationName() + tr(" Info"));
     m_logoLabel->setObjectName(QStringLiteral("LogoLabel"));
     m_logoLabel->setFixedSize(290, 290);
-    m_logoLabel->setFrameStyle(QFrame::WinPanel | QFrame::Sunken);
+    m_logoLabel->setFrameStyle(int(QFrame::WinPanel) | int(QFrame::Sunken));
     m_logoLabel->setLineWidth(5);
     m_logoLabel->setAutoFillBackground(true);
 

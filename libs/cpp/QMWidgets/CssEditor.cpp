@@ -47,16 +47,16 @@ CssEditor::CssEditor(QWidget* parent)
 void CssEditor::makeActions()
 {
     QMenu* const file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open..."), m_doc, &CssDoc::slotLoad, Qt::CTRL + Qt::Key_O);
-    file->addAction(tr("&Save"), m_doc, &CssDoc::slotSave, Qt::CTRL + Qt::Key_S);
+    file->addAction(tr("&Open..."), m_doc, &CssDoc::slotLoad, int(Qt::CTRL) + int(Qt::Key_O));
+    file->addAction(tr("&Save"), m_doc, &CssDoc::slotSave, int(Qt::CTRL) + int(Qt::Key_S));
     file->addAction(tr("S&ave As..."), m_doc, &CssDoc::slotSaveAs);
 
     QToolBar* const operations = addToolBar(tr("Operations"));
     QAction* const setInfo =
         operations->addAction(tr("&SetInfo"), this, &CssEditor::slotApplyToolTipsInfo);
-    setInfo->setShortcut(Qt::CTRL + Qt::Key_I);
+    setInfo->setShortcut(int(Qt::CTRL) + int(Qt::Key_I));
     QAction* const apply = operations->addAction(tr("&Apply"), this, &CssEditor::slotApply);
-    apply->setShortcut(Qt::CTRL + Qt::Key_A);
+    apply->setShortcut(int(Qt::CTRL) + int(Qt::Key_A));
     QAction* const reset = operations->addAction(tr("&Reset"), this, &CssEditor::slotReset);
     // The only one without a key of its own.
     file->addSeparator();

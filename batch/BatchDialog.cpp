@@ -34,11 +34,11 @@ QString makeRunFolder()
     return folder;
 }
 
-/// The picture as a pixmap; one larger than cameras take, reduced by a whole number, so
-/// that a large photo isn't there twice.
+/// The picture as a pixmap; one larger than most cameras take, reduced by a whole number, so that
+/// a huge photo isn't there twice.
 QPixmap pixmapFor(const QImage& image)
 {
-    constexpr double kMostPixels = 1 << 26;
+    constexpr double kMostPixels = 1 << 25;
     const double pixels = double(image.width()) * image.height();
     const int factor = int(std::ceil(std::sqrt(pixels / kMostPixels)));
     return QPixmap::fromImage(factor > 1 ? MGraphX::reduced(image, factor) : image);

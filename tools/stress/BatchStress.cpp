@@ -25,7 +25,7 @@ namespace
 constexpr int kQuality = 90;
 /// What the program itself takes, the encoder and the decoder, the picture that the dialog shows,
 /// and the heap kept for the smaller photos.
-constexpr double kConstantMegabytes = 200;
+constexpr double kConstantMegabytes = 300;
 
 struct Flow {
     BatchWorker::Operations operations;

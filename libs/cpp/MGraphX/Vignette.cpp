@@ -17,24 +17,31 @@ namespace MGraphX
 namespace
 {
 
-/// Which of the `side` rows of a square the painter takes for each of `length` rows when it
-/// squeezes the square into an image of `format`; for columns it takes the same. Found by letting
-/// it squeeze a column whose words are their own numbers. Fewer than `length` where the image goes
-/// on beyond what it paints.
-std::vector<int> sampledPlaces(int side, int length, QImage::Format format)
+/// Which of the `side` rows or columns of a square the painter takes for each of `length` ones when
+/// it squeezes the square into an image of `format`. Found by letting it squeeze a line whose words
+/// are their own numbers: along a row it steps in another precision than from row to row, so the
+/// line lies as those that are asked for. Fewer than `length` where the image goes on beyond what
+/// it paints.
+std::vector<int> sampledPlaces(int side, int length, QImage::Format format, Qt::Orientation along)
 {
-    QImage numbers(1, side, format);
-    QImage sampled(1, length, format);
+    const auto line = [&](int words) {
+        return QImage(along == Qt::Horizontal ? QSize(words, 1) : QSize(1, words), format);
+    };
+    QImage numbers = line(side);
+    QImage sampled = line(length);
+    const auto word = [along](QImage& image, int i) -> uint32_t& {
+        return along == Qt::Horizontal ? targetRow(image, 0)[i] : *targetRow(image, i);
+    };
     for (int i = 0; i < side; ++i) {
-        *targetRow(numbers, i) = 0xff000000u | uint32_t(i);
+        word(numbers, i) = 0xff000000u | uint32_t(i);
     }
     sampled.fill(0);
     QPainter painter(&sampled);
-    painter.drawImage(QRect(0, 0, 1, length), numbers);
+    painter.drawImage(sampled.rect(), numbers);
     painter.end();
     std::vector<int> places;
-    for (int i = 0; i < length && *sourceRow(sampled, i) != 0; ++i) {
-        places.push_back(int(*sourceRow(sampled, i) & 0x00ffffffu));
+    for (int i = 0; i < length && word(sampled, i) != 0; ++i) {
+        places.push_back(int(word(sampled, i) & 0x00ffffffu));
     }
     return places;
 }
@@ -85,8 +92,8 @@ QImage withSampledRows(QImage source, const VignetteLook& look)
     const QImage::Format format = source.format();
     const int width = source.width();
     const int side = std::max(width, source.height());
-    const std::vector<int> rows = sampledPlaces(side, source.height(), format);
-    const std::vector<int> columns = sampledPlaces(side, width, format);
+    const std::vector<int> rows = sampledPlaces(side, source.height(), format, Qt::Vertical);
+    const std::vector<int> columns = sampledPlaces(side, width, format, Qt::Horizontal);
     GradientRows gradient(side, format, look);
     gradient.setColumns(columns.front(), columns.back() + 1);
     const bool premultiplied = format == QImage::Format_ARGB32_Premultiplied;

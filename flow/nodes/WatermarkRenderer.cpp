@@ -133,6 +133,19 @@ bool isOutsized(const QSize& mark, const QSize& photo, const QImage& image)
     return pixels(mark) > pixels(photo) && canScalePart(image, mark);
 }
 
+/// The part of a mark's `box` to draw so that what shows of it on the photo is as in the whole box.
+/// The painter rounds an image of one pixel in another way than larger ones: such a part gets a
+/// neighbour, which a box has as it is at least as wide as both margins.
+QRect partToDraw(const QRect& box, const QRect& photo)
+{
+    const QRect visible = box & photo;
+    if (visible.size() != QSize(1, 1)) {
+        return visible;
+    }
+    const bool hasNext = visible.right() < box.right();
+    return visible.adjusted(hasNext ? 0 : -1, 0, hasNext ? 1 : 0, 0);
+}
+
 /// The part `drawn` of the mark that fills `box`. Errors: a null image if it is too large.
 QImage scaledMark(const QImage& mark, const QRect& box, const QRect& drawn)
 {
@@ -157,11 +170,11 @@ QImage drawImage(QImage photo, const WMRParams& params)
     }
     const QSize size = sizeInPhoto(params.image.size(), photo.width(), params.size);
     const QRect box = markBox(photo.size(), size, params);
-    const QRect visible = box & photo.rect();
-    if (visible.isEmpty()) {
+    if (!box.intersects(photo.rect())) {
         return photo;
     }
-    const QRect drawn = isOutsized(box.size(), photo.size(), params.image) ? visible : box;
+    const QRect drawn =
+        isOutsized(box.size(), photo.size(), params.image) ? partToDraw(box, photo.rect()) : box;
     const QImage mark = scaledMark(params.image, box, drawn);
     if (mark.isNull()) {
         return photo;

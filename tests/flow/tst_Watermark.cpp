@@ -267,6 +267,31 @@ private slots:
         }
     }
 
+    void oneVisiblePixelOfAMarkIsAsInTheWhole()
+    {
+        // The mark's box reaches beyond the photo all round, at the left, and at the right.
+        const struct {
+            int side;
+            int offset;
+        } cases[] = {{1, 0}, {20, -105}, {20, 105}};
+        for (const auto format :
+             {QImage::Format_RGB32, QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+            for (const auto& each : cases) {
+                const QImage photo = noise({each.side, each.side}, 3).convertToFormat(format);
+                WMRParams params = redMark(WMRParams::kImageMode);
+                params.size = 100;
+                params.position = 0;
+                params.xOffset = each.offset;
+                params.yOffset = -each.offset;
+                for (params.transparency = 0; params.transparency < 100; params.transparency += 7) {
+                    params.image = noise({3, 3}, quint32(params.transparency));
+                    COMPARE_IMAGES(WMRNode::drawWatermark(photo, params),
+                                   reference::watermark(photo, params));
+                }
+            }
+        }
+    }
+
     void pixelsArePixelsAlsoInAPhotoForDenseScreens()
     {
         for (const int mode : {WMRParams::kTextMode, WMRParams::kImageMode}) {

@@ -128,10 +128,21 @@ private slots:
     void turnsLoseAnEdge()
     {
         const QRgb out = 12345; // what this toolkit answers outside an image
-        const QImage photo = image({3, 2}, {1, 2, 3, 4, 5, 6});
-        COMPARE_IMAGES(GraphX::rotate90(photo), image({2, 3}, {out, 4, out, 5, out, 6}));
-        COMPARE_IMAGES(GraphX::rotate180(photo), image({3, 2}, {out, out, out, out, 6, 5}));
-        COMPARE_IMAGES(GraphX::rotate270(photo), image({2, 3}, {out, out, 3, 6, 2, 5}));
+        // A scanner's photo, with more dots along one side than along the other.
+        const auto scanned = [](const QSize& size, const QVector<QRgb>& words, int dotsX,
+                                int dotsY) {
+            QImage made = image(size, words);
+            made.setDotsPerMeterX(dotsX);
+            made.setDotsPerMeterY(dotsY);
+            return made;
+        };
+        const QImage photo = scanned({3, 2}, {1, 2, 3, 4, 5, 6}, 7000, 9000);
+        COMPARE_IMAGES(GraphX::rotate90(photo),
+                       scanned({2, 3}, {out, 4, out, 5, out, 6}, 9000, 7000));
+        COMPARE_IMAGES(GraphX::rotate180(photo),
+                       scanned({3, 2}, {out, out, out, out, 6, 5}, 7000, 9000));
+        COMPARE_IMAGES(GraphX::rotate270(photo),
+                       scanned({2, 3}, {out, out, 3, 6, 2, 5}, 9000, 7000));
     }
 
     void frameMeasuresTheWidth()

@@ -17,6 +17,15 @@ template <class Place> QImage moved(const QImage& image, const QSize& size, cons
     return result;
 }
 
+/// The resolutions along the sides are exchanged with the sides.
+QImage withTurnedResolution(QImage turned)
+{
+    const int dotsPerMeterX = turned.dotsPerMeterX();
+    turned.setDotsPerMeterX(turned.dotsPerMeterY());
+    turned.setDotsPerMeterY(dotsPerMeterX);
+    return turned;
+}
+
 } // namespace
 
 namespace reference
@@ -33,8 +42,9 @@ QImage crop(const QImage& image, int left, int right, int top, int bottom)
 
 QImage rotate90(const QImage& image)
 {
-    return moved(image, {image.height(), image.width()},
-                 [&](int x, int y) { return QPoint(y, image.height() - x); });
+    return withTurnedResolution(
+        moved(image, {image.height(), image.width()},
+              [&](int x, int y) { return QPoint(y, image.height() - x); }));
 }
 
 QImage rotate180(const QImage& image)
@@ -45,8 +55,9 @@ QImage rotate180(const QImage& image)
 
 QImage rotate270(const QImage& image)
 {
-    return moved(image, {image.height(), image.width()},
-                 [&](int x, int y) { return QPoint(image.width() - y, x); });
+    return withTurnedResolution(
+        moved(image, {image.height(), image.width()},
+              [&](int x, int y) { return QPoint(image.width() - y, x); }));
 }
 
 QImage frame(const QImage& image, int widthPercent, const QColor& color)

@@ -53,7 +53,7 @@ public:
     /// A quarter turn clockwise, half a turn, and a quarter turn anticlockwise, off by one pixel:
     /// the first column (90), the first row (270) or both (180) hold what QImage::pixel answers
     /// outside an image, and the source's first row, first column or both are lost.
-    /// Shape: sides exchanged but for 180; the format of the source.
+    /// Shape: sides and their resolutions exchanged but for 180; the format of the source.
     static QImage rotate90(const QImage& image);
     static QImage rotate180(const QImage& image);
     static QImage rotate270(const QImage& image);

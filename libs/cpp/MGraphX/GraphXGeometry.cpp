@@ -38,6 +38,15 @@ QImage newImage(const QImage& source, int64_t width, int64_t height)
     return imageLike(source, QSize(int(width), int(height)), source.format());
 }
 
+/// An image with the sides of `source` exchanged, and with them the resolutions along the sides.
+QImage newTurnedImage(const QImage& source)
+{
+    QImage result = newImage(source, source.height(), source.width());
+    result.setDotsPerMeterX(source.dotsPerMeterY());
+    result.setDotsPerMeterY(source.dotsPerMeterX());
+    return result;
+}
+
 /// The unused byte of RGB32 is 255 in what the toolkit's setPixel stores, whatever was read.
 QImage asStored(QImage image)
 {
@@ -99,7 +108,7 @@ QImage GraphX::crop(const QImage& image, int left, int right, int top, int botto
 QImage GraphX::rotate90(const QImage& image)
 {
     const QImage source = withWords(image);
-    QImage result = newImage(source, source.height(), source.width());
+    QImage result = newTurnedImage(source);
     if (result.isNull()) {
         return result;
     }
@@ -135,7 +144,7 @@ QImage GraphX::rotate180(const QImage& image)
 QImage GraphX::rotate270(const QImage& image)
 {
     const QImage source = withWords(image);
-    QImage result = newImage(source, source.height(), source.width());
+    QImage result = newTurnedImage(source);
     if (result.isNull()) {
         return result;
     }

@@ -42,9 +42,8 @@ QImage crop(const QImage& image, int left, int right, int top, int bottom)
 
 QImage rotate90(const QImage& image)
 {
-    return withTurnedResolution(
-        moved(image, {image.height(), image.width()},
-              [&](int x, int y) { return QPoint(y, image.height() - x); }));
+    return withTurnedResolution(moved(image, {image.height(), image.width()},
+                                      [&](int x, int y) { return QPoint(y, image.height() - x); }));
 }
 
 QImage rotate180(const QImage& image)
@@ -55,9 +54,8 @@ QImage rotate180(const QImage& image)
 
 QImage rotate270(const QImage& image)
 {
-    return withTurnedResolution(
-        moved(image, {image.height(), image.width()},
-              [&](int x, int y) { return QPoint(image.width() - y, x); }));
+    return withTurnedResolution(moved(image, {image.height(), image.width()},
+                                      [&](int x, int y) { return QPoint(image.width() - y, x); }));
 }
 
 QImage frame(const QImage& image, int widthPercent, const QColor& color)

@@ -9,9 +9,17 @@ ListView::ListView(QWidget* parent)
 
 void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    // The answer runs the flow, which lets events through: new photos among them end these rows.
-    const QPersistentModelIndex currentThen(current);
+    selectionModel()->select(current, QItemSelectionModel::ClearAndSelect);
+    // The answer runs the flow, which lets events through: they may bring new photos, which end
+    // these rows, or move the current row on.
     const QPersistentModelIndex previousThen(previous);
     emit currentItemChanged(current, previous);
-    QListView::currentChanged(currentThen, previousThen);
+    QListView::currentChanged(currentIndex(), previousThen);
+}
+
+QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex&,
+                                                               const QEvent*) const
+{
+    // The base class selects after it has set the current row, which may be another one by then.
+    return QItemSelectionModel::NoUpdate;
 }

@@ -6,6 +6,7 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
+#include <functional>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTimer>
@@ -71,6 +72,28 @@ private slots:
         // Deliberate: the way back to the first runs once for itself and once for the strip's row.
         panel.creator.slotGotoFirst();
         QCOMPARE(panel.widths(), QList<int>({10, 10}));
+    }
+
+    void theCurrentPhotoIsTheSelectedRow()
+    {
+        SourcePanel panel;
+        panel.showStrip();
+        ListView* const view = panel.view();
+        const std::function<void(int)> picks[] = {
+            [view](int) { QTest::keyClick(view, Qt::Key_Down); },
+            // Control would take the selection away.
+            [view](int row) {
+                QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                                  view->visualRect(view->model()->index(row, 0)).center());
+            }};
+        for (const auto& pick : picks) {
+            panel.creator.slotGotoFirst();
+            // The second comes in the run that the first starts.
+            QTimer::singleShot(0, &panel.creator, [&pick] { pick(2); });
+            pick(1);
+            QCOMPARE(view->currentIndex().row(), 2);
+            QCOMPARE(view->selectionModel()->selectedIndexes(), {view->currentIndex()});
+        }
     }
 
     void newPhotosMayComeInTheRunOfTheStrip()

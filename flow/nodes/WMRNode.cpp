@@ -325,8 +325,8 @@ WMRParams WMRNode::params() const
     params.background = toldColor(m_backgroundColor);
     params.backgroundEnabled = m_backgroundCheck->isChecked();
     params.expand = m_expandButton->isChecked();
-    params.image = m_logo;
     params.imageName = m_imageNameEdit->text();
+    params.image = WMRXml::imageOf(m_logo, params.imageName);
     return params;
 }
 

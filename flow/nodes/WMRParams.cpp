@@ -144,11 +144,14 @@ void readImage(const QString& text, QImage& image)
     }
 }
 
-QString imageText(const QImage& image, const QString& name)
+QString imageText(const QImage& logo, const QString& name)
 {
-    // No image at all is told even under the default mark's name, or the batch would draw that
-    // mark.
-    return name == defaultMarkName() && !image.isNull() ? QString() : pngText(image);
+    return name == defaultMarkName() ? QString() : pngText(logo);
+}
+
+QImage imageOf(const QImage& logo, const QString& name)
+{
+    return name == defaultMarkName() ? defaultMark() : logo;
 }
 
 QImage imageAsTold(const QImage& image)

@@ -61,8 +61,8 @@ constexpr char kFont[] = "Font";
 constexpr char kImageData[] = "ImageData";
 constexpr char kImageName[] = "ImageName";
 
-/// The default mark's name, by which a parameter text stands for it: with this name no image is
-/// written.
+/// The default mark's name, which alone stands for that mark: under it no image is written, and
+/// none but that mark is drawn.
 QString defaultMarkName();
 QImage defaultMark();
 
@@ -76,7 +76,9 @@ QFont readFont(const QString& family);
 
 /// An empty text leaves the image as it is. Errors: a null image for a text that holds none.
 void readImage(const QString& text, QImage& image);
-QString imageText(const QImage& image, const QString& name);
+/// What a parameter text holds for a logo of that name, and the image that is read from it.
+QString imageText(const QImage& logo, const QString& name);
+QImage imageOf(const QImage& logo, const QString& name);
 /// The image as it comes out of a parameter text again: some files hold pixels, or a density, that
 /// a text tells in another way.
 QImage imageAsTold(const QImage& image);

@@ -3,7 +3,10 @@
 #include "flow/Direction.h"
 #include "flow/ParameterReader.h"
 #include <MGraphX/GraphX.h>
+#include <MGraphX/ImageLike.h>
+#include <MGraphX/OpaqueScaling.h>
 
+#include <cstring>
 #include <iterator>
 
 using MGraphX::GraphX;
@@ -74,6 +77,32 @@ static_assert(std::size(kPositionWords) == BottomRight + 1);
 QString pngText(const QImage& image)
 {
     return GraphX::imageToDataUrl(image, QStringLiteral("PNG"), -1);
+}
+
+/// Whether PNG keeps format and pixels as they are. It keeps them of more formats than these.
+bool isKeptByPng(const QImage& image)
+{
+    switch (image.format()) {
+    case QImage::Format_ARGB32:
+    case QImage::Format_Grayscale8:
+        return true;
+    case QImage::Format_RGB32:
+        return MGraphX::isOpaque(image); // the unused byte comes back as 255
+    default:
+        return false;
+    }
+}
+
+/// The pixels of one image with what the other, of the same format, knows besides its pixels.
+QImage pixelsWith(const QImage& pixels, const QImage& rest)
+{
+    QImage image = MGraphX::imageLike(rest, pixels.size(), pixels.format());
+    const int rows = image.height(); // none without memory
+    for (int y = 0; y < rows; ++y) {
+        std::memcpy(image.scanLine(y), pixels.constScanLine(y),
+                    (size_t(pixels.width()) * size_t(pixels.depth()) + 7) / 8);
+    }
+    return image;
 }
 
 } // namespace
@@ -156,8 +185,14 @@ QImage imageOf(const QImage& logo, const QString& name)
 
 QImage imageAsTold(const QImage& image)
 {
-    const QImage told = GraphX::imageFromDataUrl(pngText(image));
-    return told.isNull() ? image : told;
+    // One pixel shows what becomes of the rest. To encode all of a large logo takes seconds.
+    const bool isKept = isKeptByPng(image);
+    const QImage sample = isKept ? image.copy(0, 0, 1, 1) : image;
+    const QImage told = GraphX::imageFromDataUrl(pngText(sample));
+    if (told.isNull()) {
+        return image;
+    }
+    return isKept ? pixelsWith(image, told) : told;
 }
 
 } // namespace WMRXml

@@ -2,8 +2,12 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
 #include "WatermarkTesting.h"
+#include <MGraphX/GraphX.h>
 
+#include <QColorSpace>
 #include <QSignalSpy>
+
+using MGraphX::GraphX;
 
 namespace
 {
@@ -118,6 +122,32 @@ private slots:
         loadOne(loaded, "ImageName", QStringLiteral("corvane.png"));
         QCOMPARE(told(loaded, "ImageData"), QString());
         COMPARE_IMAGES(processed(loaded, photo), withDefaultMark(photo));
+    }
+
+    /// So the preview draws what the batch reads, and a text is the same each time it is written.
+    void aLogoIsHeldAsItsTextTellsIt()
+    {
+        const QSize size(40, 23); // whole bytes in a row of bits
+        QVector<QImage> logos = {noise(size, 3)};
+        QVERIFY(logos[0].reinterpretAsFormat(QImage::Format_RGB32)); // the unused byte isn't 255
+        for (int format = QImage::Format_Mono; format < QImage::NImageFormats; ++format) {
+            logos += noise(size, 3).convertToFormat(QImage::Format(format));
+        }
+        const QString png = QStringLiteral("PNG");
+        for (QImage logo : qAsConst(logos)) {
+            logo.setDotsPerMeterX(1234);
+            logo.setDevicePixelRatio(2);
+            logo.setOffset(QPoint(3, 4));
+            logo.setText(QString(), QStringLiteral("lost without a key"));
+            logo.setText(QStringLiteral("Comment"), QStringLiteral("a"));
+            logo.setColorSpace(QColorSpace::DisplayP3);
+            const QImage held = WMRXml::imageAsTold(logo);
+            const QImage read = GraphX::imageFromDataUrl(GraphX::imageToDataUrl(logo, png, -1));
+            COMPARE_IMAGES(held, read);
+            QCOMPARE(held.devicePixelRatio(), 1.0);
+            QCOMPARE(held.colorTable(), read.colorTable());
+            QCOMPARE(GraphX::imageToDataUrl(held, png, -1), GraphX::imageToDataUrl(read, png, -1));
+        }
     }
 
     void aFileThatIsNoImageGivesAWarning()

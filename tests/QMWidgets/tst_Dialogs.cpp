@@ -5,6 +5,8 @@
 #include <QMWidgets/InputDialog.h>
 #include <QMWidgets/MMessageBox.h>
 
+#include <QScreen>
+
 using namespace QMWidgets;
 
 namespace
@@ -122,6 +124,30 @@ private slots:
                                          QMessageBox::Yes | QMessageBox::No);
         };
         QCOMPARE(withModalDialog(ask, striking(Qt::Key_Return)), 0x10000);
+    }
+
+    void theEndOfALongMessageShows()
+    {
+        const QString words = QStringLiteral("words and ");
+        for (const QString& text :
+             {QString(60, QLatin1Char('m')), words.repeated(60), words.repeated(2000)}) {
+            const auto pictureOf = [&text](QLatin1Char last) {
+                MMessageBox box(2, kTitle, text + last, QMessageBox::Yes, nullptr);
+                box.show();
+                const QRect screen(QPoint(), box.screen()->availableSize());
+                const QRect ok = buttonOf(&box, QStringLiteral("Yes"))->geometry();
+                if (!QRect(QPoint(), box.size()).contains(ok) ||
+                    !screen.contains(QRect(QPoint(), box.size()))) {
+                    return QImage();
+                }
+                QTest::keyClick(&box, Qt::Key_Tab); // to the bar of a text that scrolls
+                QTest::keyClick(box.focusWidget(), Qt::Key_End);
+                return box.grab().toImage();
+            };
+            // As wide as each other, so nothing but their looks tells them apart.
+            QVERIFY2(pictureOf(QLatin1Char('0')) != pictureOf(QLatin1Char('8')),
+                     qPrintable(QString::number(text.size())));
+        }
     }
 
     void anyOtherEndOfAMessageGivesZero()

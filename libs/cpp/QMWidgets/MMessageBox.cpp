@@ -1,12 +1,14 @@
 #include "MMessageBox.h"
 
 #include "ButtonRow.h"
+#include "MessageText.h"
 #include "SetupPushButton.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
 
 namespace QMWidgets
@@ -16,6 +18,9 @@ namespace
 {
 
 enum Type : int { Information = 1, Warning, Critical, Question };
+
+/// The rest is for the window's frame, which the system adds.
+constexpr double kShareOfScreen = 0.9;
 
 struct ButtonKind {
     QMessageBox::StandardButton bit;
@@ -64,13 +69,12 @@ QPixmap iconOf(int type)
 MMessageBox::MMessageBox(int type, const QString& title, const QString& text,
                          QMessageBox::StandardButtons buttons, QWidget* parent)
     : QDialog(parent),
-      m_textLabel(new QLabel(text, this)),
+      m_textLabel(new MessageText(text, this)),
       m_iconLabel(new QLabel(this))
 {
     setMinimumSize(300, 200);
     setObjectName(QStringLiteral("MessageBox"));
     setWindowTitle(title);
-    m_textLabel->setWordWrap(true);
 
     const QPixmap icon = iconOf(type);
     m_iconLabel->setPixmap(icon);
@@ -104,8 +108,32 @@ QBoxLayout* MMessageBox::makeButtons(QMessageBox::StandardButtons buttons)
             row->addWidget(button);
         }
     }
+    // Not the bar of a text that scrolls, which comes first in the order of Tab.
+    if (auto* const first = findChild<QPushButton*>()) {
+        first->setFocus();
+    }
     row->addStretch(1);
     return row;
+}
+
+QSize MMessageBox::sizeOnScreen() const
+{
+    const QWidget* const place = parentWidget() ? parentWidget() : this;
+    const QSize room = place->screen()->availableSize() * kShareOfScreen;
+    QSize size = sizeHint().boundedTo(room);
+    size.setHeight(layout()->totalHeightForWidth(size.width()));
+    return size.boundedTo(room).expandedTo(minimumSize());
+}
+
+void MMessageBox::setVisible(bool visible)
+{
+    if (visible && !testAttribute(Qt::WA_Resized)) {
+        for (QWidget* const part : findChildren<QWidget*>()) {
+            part->ensurePolished(); // fonts count
+        }
+        resize(sizeOnScreen());
+    }
+    QDialog::setVisible(visible);
 }
 
 int MMessageBox::ask(int type, QWidget* parent, const QString& title, const QString& text,

@@ -10,7 +10,8 @@ namespace QMWidgets
 {
 
 /// The program's message box: it wears the application's style sheet and buttons, and its row of
-/// buttons becomes a column on a small screen.
+/// buttons becomes a column on a small screen. It takes the size that its text needs, within the
+/// screen; a text that is higher still scrolls, so the buttons always show.
 ///
 /// exec() returns the QMessageBox::StandardButton that was pressed, or 0 if the box was closed in
 /// another way. The first button has the focus, so Enter presses it.
@@ -37,6 +38,8 @@ public:
     static int question(QWidget* parent, const QString& title, const QString& text,
                         QMessageBox::StandardButtons buttons, int unused = 0);
 
+    void setVisible(bool visible) override;
+
 public slots:
     void slotOk();
     void slotCancel();
@@ -52,6 +55,7 @@ private:
     static int ask(int type, QWidget* parent, const QString& title, const QString& text,
                    QMessageBox::StandardButtons buttons);
     QBoxLayout* makeButtons(QMessageBox::StandardButtons buttons);
+    QSize sizeOnScreen() const;
 
     QLabel* m_textLabel;
     QLabel* m_iconLabel;

@@ -2,10 +2,13 @@
 #include "support/TestMain.h"
 
 #include <memory>
+#include <QMWidgets/FileDialog.h>
 #include <QMWidgets/InputDialog.h>
 #include <QMWidgets/MMessageBox.h>
 
 #include <QScreen>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 
 using namespace QMWidgets;
 
@@ -28,6 +31,21 @@ std::function<void(QDialog*)> striking(Qt::Key key)
         QVERIFY(QTest::qWaitForWindowActive(dialog));
         QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog, key);
     };
+}
+
+/// The folder in which a dialog for files begins; it ends with that file, or with a cancel.
+QString folderOfferedBy(const std::function<void()>& ask, const QString& file = QString())
+{
+    QString folder;
+    withModalDialog(ask, [&](QDialog* dialog) {
+        auto* const files = qobject_cast<QFileDialog*>(dialog);
+        folder = files->directory().path();
+        if (!file.isEmpty()) {
+            files->selectFile(file);
+            files->QDialog::accept();
+        }
+    });
+    return folder;
 }
 
 QString askForText(QWidget* parent, bool* ok)
@@ -99,6 +117,29 @@ private slots:
             QCOMPARE(withModalDialog(ask, typeAndCancel), 42);
             QVERIFY(!isOk);
         }
+    }
+
+    void filesAreSoughtWhereTheLastWereChosen()
+    {
+        const auto open = [] {
+            FileDialog::getOpenFileNames(nullptr, kTitle);
+        };
+        const auto save = [] {
+            FileDialog::getSaveFileName(nullptr, kTitle);
+        };
+        QDir pictures(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+        pictures.removeRecursively();
+        QCOMPARE(folderOfferedBy(open), QDir::homePath());
+        QVERIFY(pictures.mkpath(QStringLiteral(".")));
+        QCOMPARE(folderOfferedBy(save), pictures.path());
+        QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("a.png"));
+        QCOMPARE(folderOfferedBy(open, file), pictures.path());
+        QCOMPARE(folderOfferedBy(open), folder.path());
+        QCOMPARE(folderOfferedBy(save), folder.path());
+        // One that is gone meanwhile counts as none.
+        QVERIFY(folder.remove());
+        QCOMPARE(folderOfferedBy(open), pictures.path());
     }
 
     void messagesAnswerWithTheirButton()

@@ -43,8 +43,8 @@ bool CssDoc::event(QEvent* event)
 
 void CssDoc::slotLoad()
 {
-    const QString name =
-        FileDialog::getOpenFileName(this, tr("Open"), QFileInfo(m_fileName).path());
+    const QString folder = m_fileName.isEmpty() ? QString() : QFileInfo(m_fileName).path();
+    const QString name = FileDialog::getOpenFileName(this, tr("Open"), folder);
     QFile file(name);
     if (name.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         return;

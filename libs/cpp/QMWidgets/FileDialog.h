@@ -6,7 +6,8 @@
 namespace QMWidgets
 {
 
-/// The file dialogs of the program.
+/// The file dialogs of the program. Without a folder to begin in, each begins where files were last
+/// chosen in this session, at first in the user's pictures folder, or at home if there is none.
 class FileDialog
 {
 public:
@@ -18,10 +19,9 @@ public:
                                    QString* selectedFilter = nullptr,
                                    QFileDialog::Options options = QFileDialog::Options());
 
-    /// Lets the user choose several existing files, in a modal dialog. An empty `folder` begins
-    /// where the toolkit likes, an empty `filter` shows all files. `selectedFilter`, if given,
-    /// names the filter to begin with and receives the one chosen. Returns the paths, or an empty
-    /// list if the user cancelled.
+    /// Lets the user choose several existing files, in a modal dialog. An empty `filter` shows all
+    /// files. `selectedFilter`, if given, names the filter to begin with and receives the one
+    /// chosen. Returns the paths, or an empty list if the user cancelled.
     static QStringList getOpenFileNames(QWidget* parent, const QString& caption,
                                         const QString& folder = QString(),
                                         const QString& filter = QString(),

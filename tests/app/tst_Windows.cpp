@@ -6,9 +6,12 @@
 #include <QMWidgets/TranslationsManager.h>
 
 #include <QAbstractButton>
+#include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QTreeView>
 
 using QMWidgets::TranslationsManager;
 
@@ -154,6 +157,25 @@ private slots:
         }
         qInstallMessageHandler(handler);
         QCOMPARE(s_messages.join(QLatin1Char('\n')), QString());
+    }
+
+    void aFileDialogLooksTheSameWhateverOpensIt()
+    {
+        QMWidgets::DropWidget dropWindow(nullptr);
+        QList<QImage> captions;
+        for (const bool isOpenedByDropWindow : {false, true}) {
+            QFileDialog dialog(isOpenedByDropWindow ? &dropWindow : nullptr);
+            dialog.setOption(QFileDialog::DontUseNativeDialog);
+            dialog.setViewMode(QFileDialog::Detail);
+            dialog.resize(2000, 400); // room beyond the last column
+            dialog.show();
+            captions += dialog.findChild<QLabel*>(QStringLiteral("lookInLabel"))->grab().toImage();
+            auto* const header = dialog.findChild<QTreeView*>()->header();
+            QVERIFY(header->length() < header->width());
+            const QImage picture = header->grab().toImage();
+            QVERIFY(qGray(picture.pixel(picture.width() - 2, picture.height() / 2)) < 80);
+        }
+        QCOMPARE(captions.first(), captions.last());
     }
 
     void theSheetDrawsAllFlatButtons()

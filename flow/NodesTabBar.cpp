@@ -65,6 +65,11 @@ void NodesTabBar::wheelEvent(QWheelEvent* event)
 
 void NodesTabBar::mouseMoveEvent(QMouseEvent* event)
 {
+    // After a click the base class takes a move with any button held down for a drag, and only a
+    // release of the left one would end it.
+    if (!(event->buttons() & Qt::LeftButton)) {
+        return;
+    }
     bool moved = false;
     const auto note = connect(this, &QTabBar::tabMoved, this, [&moved] { moved = true; });
     m_movingTabs = true;

@@ -3,7 +3,9 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
+#include <QMouseEvent>
 #include <QSignalSpy>
+#include <QWheelEvent>
 
 namespace
 {
@@ -65,6 +67,30 @@ private slots:
         QVERIFY(!button->isEnabled());
         flow.panel.slotRemoveNode();
         QCOMPARE(removals.count(), 4);
+    }
+
+    void onlyTheLeftButtonDragsTabs()
+    {
+        Flow flow;
+        flow.addAll({kInvert, kGray, kBinary});
+        const QPoint from = flow.bar->tabRect(2).center();
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            QTest::mouseClick(flow.bar, Qt::LeftButton, Qt::NoModifier, from);
+            QTest::mousePress(flow.bar, button, Qt::NoModifier, from);
+            for (int x = 10; x <= 100; x += 10) {
+                QMouseEvent move(QEvent::MouseMove, from - QPoint(x, 0), Qt::NoButton, button,
+                                 Qt::NoModifier);
+                QCoreApplication::sendEvent(flow.bar, &move);
+            }
+            QTest::mouseRelease(flow.bar, button, Qt::NoModifier, from - QPoint(100, 0));
+            QCOMPARE(flow.names(), QStringList({kInvert, kGray, kBinary}));
+            QTest::keyClick(flow.bar, Qt::Key_Left);
+            QCOMPARE(flow.bar->currentIndex(), 1);
+            QWheelEvent wheel(from, flow.bar->mapToGlobal(from), QPoint(), QPoint(0, 120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(flow.bar, &wheel);
+            QCOMPARE(flow.bar->currentIndex(), 0);
+        }
     }
 
     void tabsShowThePictureAfterTheirNode()

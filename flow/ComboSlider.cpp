@@ -82,6 +82,11 @@ void ComboSlider::setControlName(const QString& name)
 
 void ComboSlider::slotSpinValueChanged(int value)
 {
+    // Return in the spin box emits the value once more, changed or not.
+    if (value == m_value) {
+        return;
+    }
+    m_value = value;
     const bool wereBlocked = m_slider->blockSignals(true);
     m_slider->setValue(value);
     emit sliderMoved(value);

@@ -41,4 +41,5 @@ private:
     QSlider* m_slider;
     QSpinBox* m_spinBox;
     QLabel* m_unitLabel;
+    int m_value = 0; ///< emitted last; the spin box starts at 0
 };

@@ -69,39 +69,52 @@ private:
         m_at = found < 0 ? m_xml.size() : found + end.size();
     }
 
-    /// A bare name is all that passes: entities are declared inside of brackets, and quotes could
-    /// hide where the declaration ends.
+    /// Names pass, also those of files, which the reader never opens. Entities are declared inside
+    /// of brackets.
     void passDocumentType()
     {
-        const int start = m_at;
-        passTo("<!", ">");
-        for (int i = start; i < m_at; ++i) {
-            const QChar character = m_xml.at(i);
-            m_isHarmless = m_isHarmless && character != QLatin1Char('[') &&
-                           character != QLatin1Char('"') && character != QLatin1Char('\'');
-        }
+        passToEndOfTag([this](QChar character) {
+            m_isHarmless = m_isHarmless && character != QLatin1Char('[');
+        });
     }
 
     void passStartTag()
     {
-        QChar quote;
         QChar last;
+        passToEndOfTag([this, &last](QChar character) {
+            if (isQuote(character)) {
+                count();
+            }
+            last = character;
+        });
+        if (last != QLatin1Char('/')) {
+            m_isHarmless = m_isHarmless && ++m_depth <= kMaxDepth;
+        }
+    }
+
+    static bool isQuote(QChar character)
+    {
+        return character == QLatin1Char('"') || character == QLatin1Char('\'');
+    }
+
+    /// Passes the next ">" that no quotes hide. Hands over what comes before it, of a text in
+    /// quotes the first quote only.
+    template <class Look> void passToEndOfTag(const Look& look)
+    {
+        QChar quote;
         for (++m_at; m_at < m_xml.size(); ++m_at) {
             const QChar character = m_xml.at(m_at);
             if (!quote.isNull()) {
                 quote = character == quote ? QChar() : quote;
-            } else if (character == QLatin1Char('"') || character == QLatin1Char('\'')) {
-                quote = character;
-                count();
-            } else if (character == QLatin1Char('>')) {
+                continue;
+            }
+            if (character == QLatin1Char('>')) {
                 break;
             }
-            last = character;
+            quote = isQuote(character) ? character : QChar();
+            look(character);
         }
         ++m_at;
-        if (last != QLatin1Char('/')) {
-            m_isHarmless = m_isHarmless && ++m_depth <= kMaxDepth;
-        }
     }
 
     const QString& m_xml;

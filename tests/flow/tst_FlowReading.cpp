@@ -54,6 +54,9 @@ private slots:
     void readsWhatItUnderstands()
     {
         const QString five = flowOf(operation("0", "5"));
+        Photos files;
+        files.addFile(QStringLiteral("f.dtd"), "<!ENTITY t '5'>");
+        const QString outside = files.path(QStringLiteral("f.dtd"));
         const struct {
             const char* name;
             QString xml;
@@ -94,6 +97,13 @@ private slots:
             {"a declaration and a bare document type",
              "<?xml version='1.0' encoding='latin1'?><!DOCTYPE F>" + five,
              {"5"}},
+            {"a document type of quoted names",
+             "<!DOCTYPE F PUBLIC \"-//F\" '[\">'>" + five,
+             {"5"}},
+            {"an entity declared elsewhere",
+             QStringLiteral("<!DOCTYPE F SYSTEM '%1'>").arg(QUrl::fromLocalFile(outside).url()) +
+                 flowOf(operation("0", "<P><Threshold>&t;</Threshold></P>")),
+             {"127"}},
             {"an empty text", "", {}},
             {"no XML", "Operation", {}},
             {"cut off", five.chopped(4), {}},
@@ -102,6 +112,7 @@ private slots:
              "<!DOCTYPE F [<!ENTITY t \"5\">]>" +
                  flowOf(operation("0", "<P><Threshold>&t;</Threshold></P>")),
              {}},
+            {"declared parts after a quoted name", "<!DOCTYPE F SYSTEM '>' [<!-- -->]>" + five, {}},
             {"deep, but bearable",
              flowOf(operation("0", "<P><Threshold>5</Threshold>" + nested(250) + "</P>")),
              {"5"}},
@@ -139,6 +150,7 @@ private slots:
                     {"<?x ' <!-- ?>", "<a>"},
                     {"<b c='/>' d=\"'\">", "<a b='/>'>"},
                     {"<!DOCTYPE a '> <!-- '>", "<a>"},
+                    {"<!DOCTYPE a SYSTEM \"'><!--\">", "<a>"},
                     {"<b></b><b/>", "<a >"},
                     {"<a ", "b=''"}, // attributes
                     {"<a>", "<b/>"}, // siblings

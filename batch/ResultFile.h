@@ -9,9 +9,7 @@ class QImage;
 /// folder of its run, whatever the user typed as its name.
 bool liesIn(const QString& folder, const QString& file);
 
-/// Writes a picture to a file, replacing one that is there. The file is whole at any moment: the
-/// picture is written beside it and takes its name at the end. One that can't be written whole, as
-/// on a full disk, leaves things as they were. Only where nothing can be made beside the file, or
-/// where it is a link or a device, it is written to itself, and removed if that fails midway.
-/// Errors: false.
+/// Writes a picture to a file, as a whole or not at all (QMWidgets::writeWholeFile). Only where
+/// nothing can be made beside the file, or where it is a device, it is written to itself, and
+/// removed if that fails midway. Errors: false.
 bool saveResult(const QImage& image, const QString& file, const QByteArray& format, int quality);

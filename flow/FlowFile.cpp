@@ -3,6 +3,7 @@
 #include "flow/FlowsFolder.h"
 #include <QMWidgets/WholeFile.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTextCodec>
@@ -30,9 +31,9 @@ namespace FlowFile
 
 QString path(const QString& fileName)
 {
-    const bool isPlainName =
-        QFileInfo(fileName).fileName() == fileName && !fileName.contains(QChar::Null);
-    return isPlainName ? flowsFolder() + fileName : QString();
+    const QString folder = QDir::cleanPath(flowsFolder()) + QLatin1Char('/');
+    const QString path = QDir::cleanPath(folder + fileName);
+    return path.startsWith(folder) && !path.contains(QChar::Null) ? path : QString();
 }
 
 bool read(const QString& path, QString& text)

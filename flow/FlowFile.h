@@ -6,8 +6,8 @@
 namespace FlowFile
 {
 
-/// The file of that name in the folder of flows. Errors: an empty path for a name that would lead
-/// anywhere else, such as "../x.flow".
+/// The file of that name in the folder of flows; a slash before the name changes nothing. Errors:
+/// an empty path for a name that would lead out of the folder, such as "../x.flow".
 QString path(const QString& fileName);
 
 /// Reads a whole file: in UTF-8, in what its byte order mark tells, or in the system's encoding

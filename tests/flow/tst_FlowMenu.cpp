@@ -48,8 +48,11 @@ private slots:
                     {"a.FLOW", "a.FLOW.flow"},
                     {"", ".flow"},
                     {"..R&B <i>\\", "..R&B <i>\\.flow"},
+                    {"/slash", "slash.flow"},
+                    {"within/a", "within/a.flow"},
                     {"../a", nullptr},
-                    {"within/a", nullptr},
+                    {"/../a", nullptr},
+                    {"within/../../a", nullptr},
                     {QDir::homePath() + "/a", nullptr},
                     {QStringLiteral("c") + QChar(0) + "d", nullptr},
                     {QString(300, QChar('a')), nullptr}};
@@ -84,6 +87,22 @@ private slots:
         save(flow, file, press("Yes"));
         QVERIFY(content(file).startsWith("<OperationsFlow>"));
         QCOMPARE(savedNames(flow), QStringList(file));
+
+        // No name is too long for it, and what a link leads to keeps its permissions.
+        const QString longest = QString(250, QLatin1Char('x')) + QStringLiteral(".flow");
+        const auto mine = QFile::ReadOwner | QFile::WriteOwner;
+        put(longest, "former");
+        QVERIFY(QFile::setPermissions(flowsFolder() + longest, mine));
+        QVERIFY(QFile::link(flowsFolder() + longest, flowsFolder() + "link.flow"));
+        for (const QString& name : {QStringLiteral("link"), longest}) {
+            flow.add(kBlur);
+            save(flow, name, press("Yes"));
+            QCOMPARE(content(longest).count("Blur"), flow.names().size());
+            QVERIFY(QFileInfo(flowsFolder() + "link.flow").isSymLink());
+            QCOMPARE(QFile::permissions(flowsFolder() + longest) & (QFile::ReadOther | mine), mine);
+        }
+        QCOMPARE(savedNames(flow), QStringList({file, QStringLiteral("link.flow"), longest}));
+        QCOMPARE(QDir(flowsFolder()).count(), 5U); // these, "." and ".."
     }
 
     void aMnemonicIsNoPartOfTheName()

@@ -63,6 +63,7 @@ const Step kMirror = {"Mirror", "<Horizontal>yes</Horizontal><Vertical>no</Verti
                       [](const QImage& image) {
                           return image.mirrored(true, false);
                       }};
+const Step kHalfTurn = {"Rotate", "<Angle>180</Angle>", reference::rotate180};
 const Step kCrop = {"Crop", "<Left>11</Left><Right>11</Right>", [](const QImage& image) {
                         return reference::crop(image, 11, 11, 0, 0);
                     }};
@@ -109,6 +110,7 @@ QVector<TimedFlow> flows()
     return {timedFlow("convert only", {}),
             timedFlow("tone, grayscale, invert", {soft, kGrayscale, kInvert}),
             timedFlow("rotate, mirror", {kRotate, kMirror}),
+            timedFlow("crop, half turn, blur", {kCrop, kHalfTurn, kBlur}),
             timedFlow("sample flow", {strong, kCrop, kRotate, kResize}),
             timedFlow("blur, vignette, text", {kBlur, kVignette, kMark}),
             timedFlow("histogram, frame, binarize", {kHistogram, kFrame, kBinarize})};

@@ -2,7 +2,9 @@
 
 #include "flow/ComboSlider.h"
 #include "flow/SliderParameter.h"
-#include <MGraphX/GraphX.h>
+#include <MGraphX/Blur.h>
+
+#include <utility>
 
 namespace
 {
@@ -11,9 +13,10 @@ constexpr SliderParameter kParameters[] = {
     {"Radius", QT_TRANSLATE_NOOP("BLRNode", "Blur:"), 0, 20, 5, 5, 10, 2, ""},
 };
 
-QImage apply(const QImage& image, int radius)
+QImage apply(QImage image, int radius)
 {
-    return MGraphX::GraphX::blur(image, image.rect(), radius, false);
+    const QRect whole = image.rect();
+    return MGraphX::blurImage(std::move(image), whole, radius, false);
 }
 
 } // namespace
@@ -31,8 +34,8 @@ void BLRNode::process(QImage& image)
               [radius = m_radius->value()](const QImage& source) { return apply(source, radius); });
 }
 
-QImage BLRNode::processFromXml(const QImage& image, const QString& xml)
+QImage BLRNode::processFromXml(QImage&& image, const QString& xml)
 {
     const auto [radius] = readValues(xml, kParameters);
-    return apply(image, radius);
+    return apply(std::move(image), radius);
 }

@@ -2,7 +2,10 @@
 
 #include "flow/ComboSlider.h"
 #include "flow/SliderParameter.h"
+#include <MGraphX/Geometry.h>
 #include <MGraphX/GraphX.h>
+
+#include <utility>
 
 using MGraphX::GraphX;
 
@@ -35,8 +38,8 @@ void CRPNode::process(QImage& image)
     });
 }
 
-QImage CRPNode::processFromXml(const QImage& image, const QString& xml)
+QImage CRPNode::processFromXml(QImage&& image, const QString& xml)
 {
     const auto [left, right, top, bottom] = readValues(xml, kParameters);
-    return GraphX::crop(image, left, right, top, bottom);
+    return MGraphX::geometry::crop(std::move(image), left, right, top, bottom);
 }

@@ -11,7 +11,11 @@ public:
     CRPNode(const QString& name, QWidget* parent);
 
     void process(QImage& image) override;
-    static QImage processFromXml(const QImage& image, const QString& xml);
+    static QImage processFromXml(const QImage& image, const QString& xml)
+    {
+        return processFromXml(QImage(image), xml);
+    }
+    static QImage processFromXml(QImage&& image, const QString& xml);
 
 private:
     ComboSlider* m_left;

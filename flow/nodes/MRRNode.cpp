@@ -1,10 +1,12 @@
 #include "flow/nodes/MRRNode.h"
 
 #include "flow/ParameterReader.h"
+#include <MGraphX/Geometry.h>
 #include <MGraphX/GraphX.h>
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <utility>
 
 using MGraphX::GraphX;
 
@@ -51,8 +53,9 @@ void MRRNode::process(QImage& image)
     });
 }
 
-QImage MRRNode::processFromXml(const QImage& image, const QString& xml)
+QImage MRRNode::processFromXml(QImage&& image, const QString& xml)
 {
-    return GraphX::mirror(image, ParameterReader::yesNoValue(xml, kHorizontalTag, true),
-                          ParameterReader::yesNoValue(xml, kVerticalTag, false));
+    return MGraphX::geometry::mirror(std::move(image),
+                                     ParameterReader::yesNoValue(xml, kHorizontalTag, true),
+                                     ParameterReader::yesNoValue(xml, kVerticalTag, false));
 }

@@ -13,7 +13,11 @@ public:
     MRRNode(const QString& name, QWidget* parent);
 
     void process(QImage& image) override;
-    static QImage processFromXml(const QImage& image, const QString& xml);
+    static QImage processFromXml(const QImage& image, const QString& xml)
+    {
+        return processFromXml(QImage(image), xml);
+    }
+    static QImage processFromXml(QImage&& image, const QString& xml);
 
 private:
     QPushButton* m_horizontalButton;

@@ -1,12 +1,13 @@
 #include "flow/nodes/RTTNode.h"
 
 #include "flow/ParameterReader.h"
-#include <MGraphX/GraphX.h>
+#include <MGraphX/Geometry.h>
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <utility>
 
-using MGraphX::GraphX;
+namespace geometry = MGraphX::geometry;
 
 namespace
 {
@@ -52,25 +53,25 @@ void RTTNode::process(QImage& image)
     runFilter(image, [angle = m_angle](const QImage& source) { return applyAngle(source, angle); });
 }
 
-QImage RTTNode::processFromXml(const QImage& image, const QString& xml)
+QImage RTTNode::processFromXml(QImage&& image, const QString& xml)
 {
-    return applyAngle(image, ParameterReader::intValue(xml, kAngleTag, 0));
+    return applyAngle(std::move(image), ParameterReader::intValue(xml, kAngleTag, 0));
 }
 
-QImage RTTNode::applyAngle(const QImage& image, int angle)
+QImage RTTNode::applyAngle(QImage&& image, int angle)
 {
     switch (angle) {
     case 90:
     case -270:
-        return GraphX::rotate90(image);
+        return geometry::rotate90(std::move(image));
     case 180:
     case -180:
-        return GraphX::rotate180(image);
+        return geometry::rotate180(std::move(image));
     case 270:
     case -90:
-        return GraphX::rotate270(image);
+        return geometry::rotate270(std::move(image));
     default:
-        return image;
+        return std::move(image);
     }
 }
 

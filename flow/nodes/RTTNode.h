@@ -13,10 +13,18 @@ public:
     RTTNode(const QString& name, QWidget* parent);
 
     void process(QImage& image) override;
-    static QImage processFromXml(const QImage& image, const QString& xml);
+    static QImage processFromXml(const QImage& image, const QString& xml)
+    {
+        return processFromXml(QImage(image), xml);
+    }
+    static QImage processFromXml(QImage&& image, const QString& xml);
 
     /// Units: degrees. Any angle but 90, 180, 270 and their negatives leaves the image as it is.
-    static QImage applyAngle(const QImage& image, int angle);
+    static QImage applyAngle(const QImage& image, int angle)
+    {
+        return applyAngle(QImage(image), angle);
+    }
+    static QImage applyAngle(QImage&& image, int angle);
 
 public slots:
     /// A quarter turn further; beyond 270 degrees it goes on at 0.

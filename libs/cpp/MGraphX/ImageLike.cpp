@@ -1,6 +1,7 @@
 #include "ImageLike.h"
 
 #include <QColorSpace>
+#include <utility>
 
 namespace MGraphX
 {
@@ -28,6 +29,17 @@ QImage imageLike(const QImage& source, const QSize& size, QImage::Format format)
         carryAlong(source, image);
     }
     return image;
+}
+
+QImage takenOver(QImage image, const QRect& part, QImage::Format format)
+{
+    auto* holder = new QImage(std::move(image));
+    uchar* first = holder->scanLine(part.top()) + ptrdiff_t(sizeof(QRgb)) * part.left();
+    QImage result(
+        first, part.width(), part.height(), holder->bytesPerLine(), format,
+        [](void* held) { delete static_cast<QImage*>(held); }, holder);
+    carryAlong(*holder, result);
+    return result;
 }
 
 } // namespace MGraphX

@@ -39,6 +39,13 @@ inline bool isFreeFor(const QImage& image, QImage::Format format)
     return image.isDetached() && image.format() == format;
 }
 
+/// An image of `format` in the memory of `image`, which nobody else holds.
+inline QImage inFormat(QImage image, QImage::Format format)
+{
+    const QRect whole = image.rect();
+    return image.format() == format ? std::move(image) : takenOver(std::move(image), whole, format);
+}
+
 /// Runs `kernel(const uint32_t* source, uint32_t* target, int count)` on pieces of each row, from
 /// `source` into an image of the same size in `format`: into the source itself if it is given away
 /// and nobody else holds it, else into a new one. One pass, since copying first and editing the
@@ -47,8 +54,9 @@ inline bool isFreeFor(const QImage& image, QImage::Format format)
 template <class Kernel> QImage mapRows(QImage source, QImage::Format format, const Kernel& kernel)
 {
     constexpr int kPiece = 512;
-    const bool inPlace = isFreeFor(source, format);
-    QImage result = inPlace ? std::move(source) : imageLike(source, source.size(), format);
+    const bool inPlace = source.isDetached();
+    QImage result =
+        inPlace ? inFormat(std::move(source), format) : imageLike(source, source.size(), format);
     uint32_t piece[kPiece]; // kernels needn't mind what they have overwritten
     for (int y = 0; y < result.height(); ++y) {
         uint32_t* to = targetRow(result, y);

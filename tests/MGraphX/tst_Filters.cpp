@@ -56,6 +56,8 @@ QVector<QImage> images()
     // Blocks in which few pixels, many or all come near a whole level, in rows with remainders.
     const QImage noise = randomImage({500, 3}, QImage::Format_ARGB32, RandomAlpha::Any, 8);
     all << noise << tone::grayscale(noise);
+    // More rows than turns take in one go.
+    all << randomImage({17, 530}, QImage::Format_ARGB32, RandomAlpha::Any, 6);
     // An image that asks for its own stride, as one around foreign memory does.
     static uint bits[40 * 9];
     std::iota(std::begin(bits), std::end(bits), 0xfefdfcu);

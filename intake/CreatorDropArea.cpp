@@ -2,18 +2,17 @@
 
 #include "intake/BaseNameOf.h"
 #include "intake/CommonData.h"
+#include <QMWidgets/DropVeil.h>
 #include <QMWidgets/FileDialog.h>
 #include <QMWidgets/FocusRing.h>
 #include <QMWidgets/FollowLanguage.h>
 #include <QMWidgets/StepButtons.h>
 
-#include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -24,7 +23,8 @@ CreatorDropArea::CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent)
       m_nextButton(QMWidgets::makeNextButton(this)),
       m_previousButton(QMWidgets::makePreviousButton(this)),
       m_counterLabel(new QLabel(this)),
-      m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")), QString(), this))
+      m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")), QString(), this)),
+      m_dropVeil(new QMWidgets::DropVeil(this))
 {
     setFixedSize(360, 360);
     setAcceptDrops(true);
@@ -185,14 +185,18 @@ void CreatorDropArea::leaveEvent(QEvent* event)
 
 void CreatorDropArea::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (event->mimeData()->hasFormat(QStringLiteral("text/uri-list"))) {
-        event->acceptProposedAction();
-    }
+    m_dropVeil->enter(event);
+}
+
+void CreatorDropArea::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    m_dropVeil->leave();
+    Label::dragLeaveEvent(event);
 }
 
 void CreatorDropArea::dropEvent(QDropEvent* event)
 {
-    setFiles(event->mimeData()->urls());
+    setFiles(m_dropVeil->take(event));
     Label::dropEvent(event);
 }
 

@@ -9,6 +9,11 @@
 class NodesOptionsPanel;
 class QPushButton;
 
+namespace QMWidgets
+{
+class DropVeil;
+}
+
 /// The square of the source panel: takes photos by drop or file dialog, shows the current one and
 /// steps through them. It owns the list of photos and the current index; the shared data and the
 /// strip hold copies. Once photos have arrived the keyboard reaches it: arrows step as the buttons
@@ -45,6 +50,7 @@ protected:
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -64,4 +70,5 @@ private:
     QPushButton* m_previousButton;
     QLabel* m_counterLabel;
     QPushButton* m_openButton;
+    QMWidgets::DropVeil* m_dropVeil;
 };

@@ -13,27 +13,39 @@ class tst_DropWidget : public QObject
 private slots:
     void handsOverAndHides()
     {
-        DropWidget widget;
-        widget.show();
-        QList<QUrl> received;
-        bool isVisibleMeanwhile = false;
-        bool takesMore = true;
-        connect(&widget, &DropWidget::dropped, this, [&](const QList<QUrl>& urls) {
-            if (!received.isEmpty()) {
-                return; // a second list would bring a third
-            }
-            received = urls;
-            isVisibleMeanwhile = widget.isVisible();
-            takesMore = dropUrls(&widget, {}) || widget.findChild<QPushButton*>()->isEnabled();
-        });
         // As they come: in their order, twice, of any kind and from anywhere.
         const QList<QUrl> urls = {QUrl::fromLocalFile(QStringLiteral("/z.png")),
                                   QUrl::fromLocalFile(QStringLiteral("/a.txt")),
                                   QUrl::fromLocalFile(QStringLiteral("/z.png")),
                                   QUrl(QStringLiteral("https://corvane.example/a.png"))};
-        QVERIFY(dropUrls(&widget, urls));
+        DropWidget widget;
+        widget.show();
+        QMimeData photos;
+        photos.setUrls(urls);
+        const auto* const veil = widget.findChild<QFrame*>(QStringLiteral("DropVeil"));
+        QVERIFY(dragOnto(&widget, photos));
+        QVERIFY(veil->isVisible());
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&widget, &leave);
+        QVERIFY(veil->isHidden());
+
+        QList<QUrl> received;
+        bool isVisibleMeanwhile = false;
+        bool isVeiledMeanwhile = true;
+        bool takesMore = true;
+        connect(&widget, &DropWidget::dropped, this, [&](const QList<QUrl>& given) {
+            if (!received.isEmpty()) {
+                return; // a second list would bring a third
+            }
+            received = given;
+            isVisibleMeanwhile = widget.isVisible();
+            isVeiledMeanwhile = veil->isVisible();
+            takesMore = dropUrls(&widget, urls) || widget.findChild<QPushButton*>()->isEnabled();
+        });
+        QCOMPARE(dropUrls(&widget, urls), Qt::CopyAction);
         QCOMPARE(received, urls);
         QVERIFY(isVisibleMeanwhile);
+        QVERIFY(!isVeiledMeanwhile);
         QVERIFY(!takesMore);
         QVERIFY(widget.isHidden());
     }

@@ -22,15 +22,29 @@ private slots:
 
         QMimeData empty;
         empty.setData(QStringLiteral("text/uri-list"), QByteArray());
-        QVERIFY(dropOn(&area, empty));
+        QVERIFY(!dropOn(&area, empty));
         QCOMPARE(dropped.count(), 0);
 
         const QList<QUrl> urls = {photos.add(QStringLiteral("b.png")),
                                   photos.add(QStringLiteral("a.png"))};
-        QVERIFY(dropUrls(&area, urls));
+        const auto* const veil = area.findChild<QFrame*>(QStringLiteral("DropVeil"));
+        QVERIFY(veil->isHidden());
+        QVERIFY(dragOnto(&area, empty));
+        QVERIFY(!veil->isHidden());
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&area, &leave);
+        QVERIFY2(veil->isHidden(), "the drag has left or ended");
+
+        connect(&area, &CreatorDropArea::dropped, veil,
+                [veil] { QVERIFY2(veil->isHidden(), "the flow runs"); });
+        QCOMPARE(dropUrls(&area, urls), Qt::CopyAction);
         QCOMPARE(dropped.count(), 1);
         QCOMPARE(area.currentFile(), urls.first().toLocalFile());
         QCOMPARE(CommonData::instance()->count(), 2);
+        QMimeData photo;
+        photo.setUrls({urls.first()});
+        QVERIFY2(dropOn(&area, photo, Qt::MoveAction) != Qt::MoveAction, "it would be deleted");
+        QCOMPARE(CommonData::instance()->count(), 1);
     }
 
     void stepsAndWraps()

@@ -1,11 +1,10 @@
 #include "DropWidget.h"
 
+#include "DropVeil.h"
 #include "FileDialog.h"
 
-#include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHBoxLayout>
-#include <QMimeData>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -13,7 +12,8 @@ namespace QMWidgets
 {
 
 DropWidget::DropWidget(QWidget* parent)
-    : Label(parent)
+    : Label(parent),
+      m_dropVeil(new DropVeil(this))
 {
     setAcceptDrops(true);
     setPixmap(QPixmap(QStringLiteral(":/droparea.png")));
@@ -49,15 +49,19 @@ void DropWidget::slotOpenClicked()
 
 void DropWidget::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (event->mimeData()->hasFormat(QStringLiteral("text/uri-list"))) {
-        event->acceptProposedAction();
-    }
+    m_dropVeil->enter(event);
     Label::dragEnterEvent(event);
+}
+
+void DropWidget::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    m_dropVeil->leave();
+    Label::dragLeaveEvent(event);
 }
 
 void DropWidget::dropEvent(QDropEvent* event)
 {
-    const QList<QUrl> urls = event->mimeData()->urls();
+    const QList<QUrl> urls = m_dropVeil->take(event);
     Label::dropEvent(event);
     handOver(urls);
 }

@@ -10,6 +10,8 @@ class QPushButton;
 namespace QMWidgets
 {
 
+class DropVeil;
+
 /// The window that takes the first photos, by drag and drop or through a file dialog. It hands the
 /// list over as it came, with files of any kind in it, and hides.
 class DropWidget : public Label
@@ -29,6 +31,7 @@ public slots:
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
@@ -36,6 +39,7 @@ private:
 
     QList<QUrl> m_urls;
     QPushButton* m_openButton = nullptr;
+    DropVeil* m_dropVeil;
 };
 
 } // namespace QMWidgets

@@ -1,7 +1,6 @@
 #include "batch/BatchWorker.h"
 
 #include "batch/ResultFile.h"
-#include "flow/Operations.h"
 #include "intake/BaseNameOf.h"
 
 #include <QDebug>
@@ -50,20 +49,33 @@ void BatchWorker::slotDoWork()
     m_paused = false;
     m_bytesUnderWay = 0;
     const int total = m_photos.size();
+    // Once for all photos, and gone with the run: a logo in a text may be as large as a photo.
+    const Filters filters = total > 0 ? readOperations() : Filters();
     for (int index = 0; index < total && !m_stopped; ++index) {
         // Deliberate: a stop during a pause still lets the photo in hand through.
         while (m_paused && !m_stopped) {
             nap(kPausePoll);
         }
-        processPhoto(index, total);
+        processPhoto(index, total, filters);
         waitForPictures();
     }
     emit finished();
 }
 
-void BatchWorker::processPhoto(int index, int total)
+BatchWorker::Filters BatchWorker::readOperations() const
 {
-    const QImage image = process(m_photos.at(index).toLocalFile());
+    Filters filters;
+    for (const auto& [name, parameters] : m_operations) {
+        if (const Operation* const operation = findOperation(name)) {
+            filters.push_back(operation->filterFromXml(parameters));
+        }
+    }
+    return filters;
+}
+
+void BatchWorker::processPhoto(int index, int total, const Filters& filters)
+{
+    const QImage image = process(m_photos.at(index).toLocalFile(), filters);
     m_bytesUnderWay += m_awaitsPictures ? image.sizeInBytes() : 0;
     emit updateInfo(image, index, total);
     save(image, resultName(index));
@@ -81,7 +93,7 @@ void BatchWorker::nap(unsigned long milliseconds)
     QThread::msleep(milliseconds);
 }
 
-QImage BatchWorker::process(const QString& file) const
+QImage BatchWorker::process(const QString& file, const Filters& filters) const
 {
     // Straight from the decoder's hand, the conversion works in place.
     QImage image = QImage(file).convertToFormat(QImage::Format_ARGB32);
@@ -92,10 +104,8 @@ QImage BatchWorker::process(const QString& file) const
         qWarning() << "Can't read the photo" << file;
         return image;
     }
-    for (const auto& [name, parameters] : m_operations) {
-        if (const Operation* const operation = findOperation(name)) {
-            image = operation->processFromXml(std::move(image), parameters);
-        }
+    for (const ImageFilter& filter : filters) {
+        image = filter(std::move(image));
     }
     if (image.isNull()) {
         qWarning() << "The flow leaves nothing of the photo" << file;

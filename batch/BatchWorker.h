@@ -1,5 +1,7 @@
 #pragma once
 
+#include "flow/Operations.h"
+
 #include <atomic>
 #include <QImage>
 #include <QList>
@@ -8,6 +10,7 @@
 #include <QString>
 #include <QUrl>
 #include <QVector>
+#include <vector>
 
 /// Takes photos through a flow at full size, one after the other, and saves each result.
 ///
@@ -54,9 +57,12 @@ protected:
     virtual void nap(unsigned long milliseconds);
 
 private:
-    void processPhoto(int index, int total);
+    using Filters = std::vector<ImageFilter>;
+
+    Filters readOperations() const;
+    void processPhoto(int index, int total, const Filters& filters);
     void waitForPictures();
-    QImage process(const QString& file) const;
+    QImage process(const QString& file, const Filters& filters) const;
     QString resultName(int index);
     void save(const QImage& image, const QString& name) const;
 

@@ -54,7 +54,7 @@ QVector<Operation> makeOperations()
         {QStringLiteral("Mirror"), QStringLiteral("Icon_MRR.png"), create<MRRNode>,
          process<MRRNode>},
         {QStringLiteral("Watermark"), QStringLiteral("Icon_WMR.png"), create<WMRNode>,
-         process<WMRNode>},
+         process<WMRNode>, WMRNode::filterFromXml},
         {QStringLiteral("Histogram optimizer"), QStringLiteral("Icon_HST.png"), create<HSTNode>,
          process<HSTNode>},
         {QStringLiteral("Vignetting"), QStringLiteral("Icon_WGN.png"), create<UCSNode>,
@@ -85,6 +85,16 @@ const char* const kIconOrder[] = {
 };
 
 } // namespace
+
+ImageFilter Operation::filterFromXml(const QString& xml) const
+{
+    if (readFilter) {
+        return readFilter(xml);
+    }
+    return [process = processFromXml, xml](QImage image) {
+        return process(std::move(image), xml);
+    };
+}
 
 const QVector<Operation>& operations()
 {

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <functional>
 #include <QImage>
 #include <QPixmap>
 #include <QString>
 #include <QVector>
 
 class BaseNode;
+
+/// Takes an image through an operation, as Operation::processFromXml does.
+using ImageFilter = std::function<QImage(QImage image)>;
 
 /// A row of the operation table. Its name is the one key that ties the add menu, the tabs, the
 /// factory, flow files and the batch together; it is never translated.
@@ -17,6 +21,11 @@ struct Operation {
     /// Applies the operation as a parameter text tells it. An image that is given away and that
     /// nobody else holds leaves its memory to the result, if the operation can. Runs on any thread.
     QImage (*processFromXml)(QImage image, const QString& xml);
+    /// Reads a text once for many images; null where reading costs next to nothing.
+    ImageFilter (*readFilter)(const QString& xml) = nullptr;
+
+    /// What processFromXml does with this text, for many images. It keeps what it has read.
+    ImageFilter filterFromXml(const QString& xml) const;
 };
 
 /// All operations, in the add menu's order. An operation is added by a row here and a class for it.

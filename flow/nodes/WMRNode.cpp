@@ -341,6 +341,13 @@ QImage WMRNode::processFromXml(QImage&& image, const QString& xml)
     return ::drawWatermark(std::move(image), WMRParams::fromXml(xml));
 }
 
+std::function<QImage(QImage)> WMRNode::filterFromXml(const QString& xml)
+{
+    return [params = WMRParams::fromXml(xml)](QImage image) {
+        return ::drawWatermark(std::move(image), params);
+    };
+}
+
 QImage WMRNode::drawWatermark(const QImage& image, const WMRParams& params)
 {
     return ::drawWatermark(image, params);

@@ -3,6 +3,8 @@
 #include "flow/nodes/WMRParams.h"
 #include "flow/ParameterNode.h"
 
+#include <functional>
+
 class DirectionsWidget;
 class QCheckBox;
 class QComboBox;
@@ -31,6 +33,8 @@ public:
         return processFromXml(QImage(image), xml);
     }
     static QImage processFromXml(QImage&& image, const QString& xml);
+    /// The same for many images: a large logo takes longer to read than to draw.
+    static std::function<QImage(QImage)> filterFromXml(const QString& xml);
     static QImage drawWatermark(const QImage& image, const WMRParams& params);
 
 public slots:

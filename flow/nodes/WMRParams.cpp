@@ -139,7 +139,7 @@ QString defaultMarkName()
 
 QImage defaultMark()
 {
-    // One for all photos: the batch asks for it with each.
+    // Decoded once: each run of the chain asks for it.
     static const QImage mark(QLatin1String(":/") + defaultMarkName());
     return mark;
 }

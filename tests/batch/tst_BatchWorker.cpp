@@ -1,7 +1,10 @@
 #include "batch/BatchThread.h"
 #include "batch/BatchWorker.h"
+#include "flow/Operations.h"
+#include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
+#include <MGraphX/GraphX.h>
 
 #include <atomic>
 #include <functional>
@@ -11,6 +14,8 @@
 #include <QMWidgets/ProtocolLog.h>
 #include <QRegularExpression>
 #include <QSignalSpy>
+
+using MGraphX::GraphX;
 
 namespace
 {
@@ -150,6 +155,37 @@ private slots:
         for (int i = 0; i < lines.size(); ++i) {
             QVERIFY2(lines.at(i).contains(QRegularExpression(expected.at(i))),
                      qPrintable(lines.at(i)));
+        }
+    }
+
+    void eachRunDrawsItsOwnLogosOnAllPhotos()
+    {
+        Photos photos;
+        const QList<QUrl> urls = {photos.add(QStringLiteral("a.png")),
+                                  photos.add(QStringLiteral("b.png"), QSize(50, 70), 2)};
+        const auto mark = [](quint32 seed, const char* position) {
+            const QString logo =
+                GraphX::imageToDataUrl(noise(QSize(9, 7), seed), QStringLiteral("PNG"), -1);
+            return qMakePair(
+                QStringLiteral("Watermark"),
+                QStringLiteral("<P><Mode>1</Mode><Size>40</Size><Position>%1</Position>"
+                               "<Transparency>0</Transparency><ImageData>%2</ImageData>"
+                               "</P>")
+                    .arg(QLatin1String(position), logo));
+        };
+        BatchWorker worker;
+        for (const quint32 seed : {5u, 6u}) {
+            Job job;
+            job.operations = {mark(seed, "TopLeft"), mark(7, "BottomRight")};
+            job.giveTo(worker, urls);
+            worker.slotDoWork();
+            for (const QString& name : {QStringLiteral("a.png"), QStringLiteral("b.png")}) {
+                QImage expected = QImage(photos.path(name)).convertToFormat(QImage::Format_ARGB32);
+                for (const auto& [operation, parameters] : job.operations) {
+                    expected = findOperation(operation)->processFromXml(expected, parameters);
+                }
+                COMPARE_IMAGES(QImage(job.results.path(name)), expected);
+            }
         }
     }
 

@@ -128,6 +128,7 @@ private slots:
                 const QImage before = given.copy();
                 const QImage held = given.copy();
                 QImage expected = operation.processFromXml(held, parameters);
+                COMPARE_IMAGES(operation.filterFromXml(parameters)(held), expected);
                 COMPARE_IMAGES(held, before);
                 // A painter comes back to an image as it knew it.
                 QPainter(&given).drawPoint(-1, -1);

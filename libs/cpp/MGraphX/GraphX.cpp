@@ -70,7 +70,7 @@ QImage GraphX::imageFromDataUrl(const QString& text)
         return QImage();
     }
     const QByteArray format = text.mid(formatAt, markAt - formatAt).toLocal8Bit();
-    QByteArray bytes = QByteArray::fromBase64(text.mid(markAt + kBase64Mark.size()).toLatin1());
+    QByteArray bytes = QByteArray::fromBase64(text.midRef(markAt + kBase64Mark.size()).toLatin1());
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);

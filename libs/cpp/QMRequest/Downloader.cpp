@@ -41,22 +41,27 @@ QByteArray Downloader::get(const QString& url, QEventLoop::ProcessEventsFlags fl
     if (m_busy) {
         return QByteArray();
     }
-    m_data.clear();
-    m_busy = true;
     const QMutexLocker locker(&m_mutex);
-    m_finished = false;
-    m_manager->get(withScheme(url));
-    if (!m_finished) {
-        m_loop.exec(flags);
-    }
-    // Only the end of the request sets the flag; without it, all loops were ended from outside.
+    start(url);
+    m_loop.exec(flags);
+    // The end of the program ends all loops before that of the request.
     m_brokenOff = !m_finished;
     if (m_brokenOff) {
         m_manager->slotAbort();
     }
-    m_finished = true;
     m_busy = false;
     return std::exchange(m_data, QByteArray());
+}
+
+void Downloader::start(const QString& url)
+{
+    if (m_busy) {
+        return;
+    }
+    m_data.clear();
+    m_busy = true;
+    m_finished = false;
+    m_manager->get(withScheme(url));
 }
 
 void Downloader::slotAbort()
@@ -85,7 +90,10 @@ void Downloader::end(const QByteArray& bytes)
 {
     m_data = bytes;
     m_finished = true;
+    // Until get() has returned, the object is its caller's.
+    m_busy = m_loop.isRunning();
     m_loop.quit();
+    emit done(bytes);
 }
 
 } // namespace QMRequest

@@ -11,8 +11,8 @@ namespace QMRequest
 
 class DownloadManager;
 
-/// Fetches a web address and waits for it, while an event loop of its own keeps the program alive.
-/// It tells nobody of failures: they all give an empty body.
+/// Fetches a web address. A caller can wait for it, while an event loop keeps the program alive, or
+/// be called back. All failures give an empty body.
 ///
 /// Thread: the one that made it.
 class Downloader : public QObject
@@ -23,12 +23,17 @@ public:
     explicit Downloader(QObject* parent = nullptr);
 
     /// The body of `url`, which is asked for over plain HTTP: an address that doesn't begin with
-    /// "http://" gets that put in front. No time limit; slotAbort() ends the wait.
+    /// "http://" gets that put in front. No time limit; slotAbort() ends the wait. It also lasts
+    /// until event loops that were started during the wait have ended.
     /// Errors: empty on any failure, and for a call while another one waits.
     QByteArray get(const QString& url,
                    QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents);
 
-    /// True once get() has come to an end.
+    /// Asks for `url` as get() does and returns at once; done() brings the body. Errors: nothing
+    /// happens while another request is under way.
+    void start(const QString& url);
+
+    /// True once a request has come to an end.
     bool isFinished() const { return m_finished; }
     /// True if the last get() was broken off by the end of all event loops, as when the program is
     /// closed: nothing should be begun any more.
@@ -39,6 +44,8 @@ signals:
     void progress(int received);
     /// Units: percent; negative while nobody knows the size.
     void progressPercent(int percent);
+    /// The request has ended; empty on any failure.
+    void done(const QByteArray& body);
 
 public slots:
     void slotAbort();

@@ -2,10 +2,11 @@
 
 #include "support/HttpServer.h"
 #include <QMWidgets/UpdateAnswer.h>
-#include <QMWidgets/UpdateService.h>
+#include <QMWidgets/UpdateRequest.h>
 
 #include <algorithm>
 #include <QCoreApplication>
+#include <QEventLoop>
 
 using namespace QMWidgets;
 
@@ -63,8 +64,16 @@ void fetch(const QByteArray& answer, const QByteArray& body)
     static HttpServer* const server = new HttpServer(answer);
     server->setAnswer(answer);
     constexpr int kTimeLimit = 60000;
-    const std::optional<QString> fetched = fetchUpdateAnswer({{server->host()}, kTimeLimit});
-    require(fetched && *fetched == updateAnswerText(body), "what a host has sent comes in");
+    QString fetched;
+    QEventLoop loop;
+    UpdateRequest request({{server->host()}, kTimeLimit});
+    QObject::connect(&request, &UpdateRequest::answered, &loop, [&](const QString& text) {
+        fetched = text;
+        loop.quit();
+    });
+    request.start();
+    loop.exec();
+    require(fetched == updateAnswerText(body), "what a host has sent comes in");
     // The server's sockets leave by the event loop.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

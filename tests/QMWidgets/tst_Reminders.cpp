@@ -1,7 +1,9 @@
 #include "support/ModalDialog.h"
 #include "support/TestMain.h"
 
+#include <functional>
 #include <limits>
+#include <QMenu>
 #include <QMWidgets/App.h>
 #include <QMWidgets/ReminderType.h>
 
@@ -29,6 +31,23 @@ bool isOn()
 int count()
 {
     return App::app()->settingsValue(kCount, 1).toInt();
+}
+
+/// Makes a call, waits for the reminder of count 5, closes it and returns its parent.
+template <class Call> QWidget* parentOfReminder(const Call& call)
+{
+    QWidget* parent = nullptr;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&parent] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        if (dialog && dialog->windowTitle() == QLatin1String("Join Us")) {
+            parent = dialog->parentWidget();
+            dialog->close();
+        }
+    });
+    watch.start(0);
+    call();
+    return QTest::qWaitFor([] { return count() == 6; }, 30000) ? parent : nullptr;
 }
 
 } // namespace
@@ -102,22 +121,63 @@ private slots:
         QCOMPARE(count(), 5);
     }
 
-    /// The user's own dialog stays on top, and the reminder comes after it.
-    void waitsForTheUser()
+    void comesOverTheActiveWindow()
     {
-        App* const app = App::app();
+        for (const bool isModal : {false, true}) {
+            QDialog work;
+            work.setModal(isModal);
+            work.show();
+            QVERIFY(QTest::qWaitForWindowActive(&work));
+            prepare(5, JoinReminder, 5);
+            QCOMPARE(parentOfReminder([] { App::app()->slotCallRateReminderInternal(); }), &work);
+        }
+    }
+
+    void breaksNothingOff()
+    {
+        QWidget window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QMenu menu;
+        menu.addAction(QStringLiteral("entry"));
+        QWindow* const handle = window.windowHandle();
+        const struct {
+            std::function<void()> begin;
+            std::function<void()> end;
+        } rows[] = {{[&] { menu.popup(QPoint()); },
+                     [&] {
+                         menu.close();
+                     }},
+                    {[&] { QTest::mousePress(handle, Qt::RightButton); },
+                     [&] {
+                         QTest::mouseRelease(handle, Qt::RightButton);
+                     }}};
+        for (const auto& row : rows) {
+            prepare(5, JoinReminder, 5);
+            QApplication::setActiveWindow(&window);
+            row.begin();
+            App::app()->slotCallRateReminderInternal();
+            QCoreApplication::processEvents();
+            QVERIFY(!QApplication::activeModalWidget());
+            QCOMPARE(count(), 5);
+            QCOMPARE(parentOfReminder(row.end), &window);
+        }
+        // An event that lets others through, such as the work on a drop, comes to its end first.
         prepare(5, JoinReminder, 5);
-        QDialog work;
-        withModalDialog([&work] { work.exec(); },
-                        [&](QDialog*) {
-                            app->slotCallRateReminderInternal();
-                            QCOMPARE(QApplication::activeModalWidget(), &work);
-                            QCOMPARE(count(), 5);
-                        });
-        QString title;
-        withModalDialog([&] { QVERIFY(QTest::qWaitFor([] { return count() > 5; }, 30000)); },
-                        [&title](QDialog* dialog) { title = dialog->windowTitle(); });
-        QCOMPARE(title, QStringLiteral("Join Us"));
+        bool isDue = false;
+        const auto work = [&] {
+            QTimer::singleShot(0, this, [&] {
+                App::app()->slotCallRateReminderInternal();
+                isDue = true;
+            });
+            while (!isDue) {
+                QCoreApplication::processEvents();
+            }
+            QCOMPARE(count(), 5);
+        };
+        QApplication::setActiveWindow(&window);
+        QCOMPARE(parentOfReminder([&] { QTimer::singleShot(0, this, work); }), &window);
+        QVERIFY(isDue);
     }
 };
 

@@ -4,7 +4,6 @@
 #include "support/UrlCatcher.h"
 
 #include <memory>
-#include <optional>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -12,7 +11,8 @@
 #include <QMWidgets/App.h>
 #include <QMWidgets/MakerSite.h>
 #include <QMWidgets/PromoMenuBar.h>
-#include <QMWidgets/UpdateService.h>
+#include <QMWidgets/UpdateCheck.h>
+#include <QMWidgets/UpdateRequest.h>
 
 using QMWidgets::App;
 
@@ -21,6 +21,9 @@ namespace
 
 const QString kLastCheck = QStringLiteral("LastUpdateCheck");
 const QString kCheckedAtStart = QStringLiteral("checkupdates");
+const QString kNeverHelp = QStringLiteral("NeverShowItAgain");
+const QString kReminders = QStringLiteral("AutoReminder");
+const QString kReminderCount = QStringLiteral("AutoReminderCount");
 
 const QByteArray kNewer = HttpServer::ok("!date!;;;9999-12-31");
 const QByteArray kLatest = HttpServer::ok("!date!;;;2001-01-01");
@@ -48,7 +51,24 @@ const QString kNewerDialog = QStringLiteral("newer version");
 const QString kLatestDialog = QStringLiteral("latest version");
 const QString kErrorDialog = QStringLiteral("No internet connection");
 
-/// What tells the dialogs that come out of a call; they are closed at once.
+const QMWidgets::UpdateCheck& check()
+{
+    return *App::app()->findChild<QMWidgets::UpdateCheck*>();
+}
+
+bool isAsking()
+{
+    return check().findChild<QMWidgets::UpdateRequest*>();
+}
+
+/// Makes a call and waits until the check that is then under way has come to its end.
+template <class Call> void untilChecked(const Call& call)
+{
+    call();
+    QVERIFY(QTest::qWaitFor([] { return !check().isRunning(); }, 60000));
+}
+
+/// What tells the dialogs that come out of a call and a check; they are closed at once.
 template <class Call> QStringList dialogsOf(const Call& call)
 {
     QStringList shown;
@@ -61,7 +81,7 @@ template <class Call> QStringList dialogsOf(const Call& call)
             }
         }
     };
-    withModalDialogs(call, {note, note, note});
+    withModalDialogs([&call] { untilChecked(call); }, {note, note, note});
     return shown;
 }
 
@@ -139,7 +159,7 @@ private slots:
         UrlCatcher catcher;
         for (const bool isOn : {true, false}) {
             app->setSettingsValue(kCheckedAtStart, isOn);
-            withModalDialog([app] { app->slotCheckUpdate(); },
+            withModalDialog([app] { untilChecked([app] { app->slotCheckUpdate(); }); },
                             [&](QDialog* dialog) {
                                 auto* const box = dialog->findChild<QCheckBox*>();
                                 QCOMPARE(box->isChecked(), isOn);
@@ -168,20 +188,94 @@ private slots:
         server.disconnect(app);
         app->setSettingsValue(kLastCheck, day(-9));
         QCOMPARE(dialogsOf([app] { app->nop_cuos(); }), QStringList());
+        // The one at the start comes while the user is waiting for his.
+        app->setSettingsValue(kLastCheck, day(-9));
+        connect(&server, &HttpServer::asked, app, &App::nop_cuos);
+        QCOMPARE(dialogsOf([app] { app->slotCheckUpdate(); }), QStringList(kLatestDialog));
+        QCOMPARE(server.requests().count(), 4);
+        QCOMPARE(lastCheck(), day(0));
     }
 
-    void theStartWaitsForTheUser_data()
+    /// The check holds up no one who is at work below it, and lets all come that is due meanwhile.
+    void nothingWaitsForASilentHost()
     {
-        QTest::addColumn<bool>("isAskedBefore"); // than the user opens his list
+        HttpServer server((QByteArray()));
+        App* const app = App::app();
+        askFrom({server.host()}, day(-9));
+        QDialog work;
+        connect(&server, &HttpServer::asked, &work, &QDialog::accept);
+        QTimer::singleShot(0, app, &App::nop_cuos);
+        QTimer::singleShot(30000, &work, &QDialog::reject);
+        QCOMPARE(work.exec(), int(QDialog::Accepted));
+
+        app->setSettingsValue(kNeverHelp, false);
+        app->setSettingsValue(kReminders, true);
+        app->setSettingsValue(kReminderCount, 10);
+        app->showHelpIfDue();
+        QStringList titles;
+        const auto note = [&](const QDialog* dialog) {
+            titles += dialog->windowTitle();
+            app->slotCallJoinReminder();
+        };
+        withModalDialogs(
+            [&] { QVERIFY(QTest::qWaitFor([&] { return titles.size() == 2; }, 30000)); },
+            {note, note});
+        app->setSettingsValue(kNeverHelp, true);
+        app->setSettingsValue(kReminders, false);
+        QCOMPARE(titles, QStringList({"Tessarin Introduction", "Join Us"}));
+        QVERIFY(check().isRunning());
+        QTimer::singleShot(0, app, &QCoreApplication::quit);
+        App::exec();
+        QVERIFY(!check().isRunning());
+    }
+
+    void theAnswerComesOverAnOpenDialog_data()
+    {
+        QTest::addColumn<bool>("isByMenu");
+        QTest::addColumn<QByteArray>("answer");
+        QTest::newRow("start") << false << kNewer;
+        QTest::newRow("menu") << true << kLatest;
+        QTest::newRow("menu, error") << true << kUseless;
+    }
+
+    void theAnswerComesOverAnOpenDialog()
+    {
+        QFETCH(bool, isByMenu);
+        QFETCH(QByteArray, answer);
+        HttpServer server(answer);
+        App* const app = App::app();
+        askFrom({server.host()}, day(-9));
+        QDialog work;
+        QWidget* parent = nullptr;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, &work, [&] {
+            QWidget* const dialog = QApplication::activeModalWidget();
+            if (dialog && dialog != &work && dialog->isVisible()) {
+                parent = dialog->parentWidget();
+                dialog->close();
+            } else if (parent) {
+                work.accept();
+            }
+        });
+        watch.start(0);
+        // The user opens it while the host is being asked.
+        connect(&server, &HttpServer::asked, &work, &QDialog::exec, Qt::QueuedConnection);
+        QTimer::singleShot(30000, &work, &QDialog::reject);
+        QTimer::singleShot(0, app, isByMenu ? &App::slotCheckUpdate : &App::nop_cuos);
+        QVERIFY(QTest::qWaitFor([&] { return parent && !work.isVisible(); }, 60000));
+        QCOMPARE(work.result(), int(QDialog::Accepted));
+        QCOMPARE(parent, &work);
+    }
+
+    void theNewsWaitsForAnOpenList_data()
+    {
         QTest::addColumn<bool>("isToldByMenu");
-        QTest::newRow("before the request") << false << false;
-        QTest::newRow("before the news") << true << false;
-        QTest::newRow("who has asked in the meantime") << true << true;
+        QTest::newRow("unasked") << false;
+        QTest::newRow("asked for in the meantime") << true;
     }
 
-    void theStartWaitsForTheUser()
+    void theNewsWaitsForAnOpenList()
     {
-        QFETCH(bool, isAskedBefore);
         QFETCH(bool, isToldByMenu);
         HttpServer server(kNewer);
         App* const app = App::app();
@@ -189,55 +283,22 @@ private slots:
         QWidget window;
         QComboBox list(&window);
         list.addItem(QStringLiteral("item"));
-        QPushButton button(&window);
-        connect(&button, &QPushButton::clicked, app, &App::slotCheckUpdate);
         window.show();
-        if (isAskedBefore) {
-            connect(&server, &HttpServer::asked, &list, &QComboBox::showPopup);
-        } else {
-            list.showPopup();
-        }
+        connect(&server, &HttpServer::asked, &list, &QComboBox::showPopup);
         app->nop_cuos();
+        QVERIFY(QTest::qWaitFor([] { return !isAsking(); }, 30000));
         QVERIFY(QApplication::activePopupWidget());
         QVERIFY(!QApplication::activeModalWidget());
-        QCOMPARE(server.requests().count(), isAskedBefore ? 1 : 0);
         QCOMPARE(lastCheck(), day(-9));
-        server.disconnect(&list);
-        list.hidePopup();
-        const auto isNoted = [] {
-            return lastCheck() == day(0);
-        };
-        const auto wait = [&] {
+        const auto close = [&] {
+            list.hidePopup();
             if (isToldByMenu) {
-                QTest::keyClick(&button, Qt::Key_Space);
+                app->slotCheckUpdate();
             }
-            return QTest::qWaitFor(isNoted, 30000);
         };
-        QCOMPARE(dialogsOf(wait), QStringList(kNewerDialog)); // once
-        QVERIFY(isNoted());
-    }
-
-    void nobodyIsFreeInsideAnEventOrUnderADialog()
-    {
-        QVERIFY(App::isUserFree());
-        std::optional<bool> inEvent;
-        std::optional<bool> inEventInEvent;
-        QTimer::singleShot(0, this, [&] {
-            inEvent = App::isUserFree();
-            QTimer::singleShot(0, this, [&] { inEventInEvent = App::isUserFree(); });
-            while (!inEventInEvent) {
-                QCoreApplication::processEvents();
-            }
-        });
-        QTRY_VERIFY(inEventInEvent);
-        QCOMPARE(inEvent.value(), true);
-        QCOMPARE(inEventInEvent.value(), false);
-
-        QDialog dialog;
-        dialog.open();
-        QVERIFY(!App::isUserFree());
-        dialog.close();
-        QVERIFY(App::isUserFree());
+        QCOMPARE(dialogsOf(close), QStringList(kNewerDialog)); // once
+        QCOMPARE(lastCheck(), day(0));
+        QCOMPARE(server.requests().count(), 1);
     }
 
     void theProgramEndsInTheMiddleOfACheck()
@@ -259,11 +320,14 @@ private slots:
             askFrom({server.host(), server.host()}, day(-9));
             auto mainWindow = std::make_unique<QWidget>();
             app->setMainWidget(mainWindow.get());
+            const bool isBusy = row.check == &App::slotCheckUpdate && row.answer.isEmpty();
             bool hasDialog = false;
             QTimer watch;
             connect(&watch, &QTimer::timeout, app, [&] {
                 hasDialog = hasDialog || QApplication::activeModalWidget();
                 if (hasDialog || (row.answer.isEmpty() && !server.requests().isEmpty())) {
+                    const Qt::CursorShape shape = mainWindow->cursor().shape();
+                    QCOMPARE(shape, isBusy ? Qt::BusyCursor : Qt::ArrowCursor);
                     app->quit();
                 }
             });
@@ -274,8 +338,9 @@ private slots:
             // Nothing is begun after the end: no second request, no message.
             QVERIFY2(server.requests().count() == 1, row.name);
             QVERIFY2(mainWindow->findChildren<QDialog*>().count() == row.boxes, row.name);
+            QCOMPARE(mainWindow->cursor().shape(), Qt::ArrowCursor);
             mainWindow.reset();
-            QVERIFY2(!QApplication::activeModalWidget() && App::isUserFree(), row.name);
+            QVERIFY2(!QApplication::activeModalWidget() && !check().isRunning(), row.name);
         }
     }
 };

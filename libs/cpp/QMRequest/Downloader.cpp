@@ -45,8 +45,7 @@ QByteArray Downloader::get(const QString& url, QEventLoop::ProcessEventsFlags fl
     start(url);
     m_loop.exec(flags);
     // The end of the program ends all loops before that of the request.
-    m_brokenOff = !m_finished;
-    if (m_brokenOff) {
+    if (!m_finished) {
         m_manager->slotAbort();
     }
     m_busy = false;

@@ -35,9 +35,6 @@ public:
 
     /// True once a request has come to an end.
     bool isFinished() const { return m_finished; }
-    /// True if the last get() was broken off by the end of all event loops, as when the program is
-    /// closed: nothing should be begun any more.
-    bool isBrokenOff() const { return m_brokenOff; }
 
 signals:
     /// Units: bytes.
@@ -62,7 +59,6 @@ private:
     bool m_busy = false;
     QEventLoop m_loop;
     QByteArray m_data;
-    bool m_brokenOff = false;
 };
 
 } // namespace QMRequest

@@ -2,6 +2,8 @@
 
 #include "BlenderWidget.h"
 #include "BuildDate.h"
+#include "DialogGate.h"
+#include "EventNesting.h"
 #include "HelpDialog.h"
 #include "TranslationsManager.h"
 #include "UpdateCheck.h"
@@ -10,10 +12,10 @@
 #include <QMWidgets/MakerSite.h>
 
 #include <QEvent>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSettings>
 #include <QSysInfo>
+#include <QThread>
 #include <QTimer>
 
 namespace QMWidgets
@@ -24,10 +26,6 @@ namespace
 
 constexpr int kHelpDelay = 500;         // milliseconds
 constexpr int kUpdateCheckDelay = 2000; // milliseconds after the start
-
-/// Events in hand on the stack of this thread. Those of worker threads go through the application
-/// object, too.
-thread_local int eventDepth = 0;
 
 void dropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 
@@ -62,8 +60,9 @@ App::App(int& argc, char** argv, const QString& organization, const QString& app
     m_helpTimer->setObjectName(QStringLiteral("HelpTimer"));
     m_helpTimer->setSingleShot(true);
     m_helpTimer->setInterval(kHelpDelay);
-    connect(m_helpTimer, &QTimer::timeout, this, &App::showHelpWhenFree);
-    m_updateCheck = new UpdateCheck(this);
+    connect(m_helpTimer, &QTimer::timeout, this, &App::showHelpWhenGateOpens);
+    m_dialogGate = new DialogGate(this);
+    m_updateCheck = new UpdateCheck(m_dialogGate, this);
     if (UpdateSettings::isCheckedAtStart()) {
         QTimer::singleShot(kUpdateCheckDelay, this, &App::nop_cuos);
     }
@@ -71,7 +70,7 @@ App::App(int& argc, char** argv, const QString& organization, const QString& app
 
 App::~App()
 {
-    // One that was made while no window was active has no other owner.
+    // While it is closed, nobody else owns it.
     delete m_helpDialog;
 }
 
@@ -154,7 +153,7 @@ double App::devicePixelRatio()
 
 bool App::notify(QObject* receiver, QEvent* event)
 {
-    const QScopedValueRollback<int> depth(eventDepth, eventDepth + 1);
+    const EventNesting nesting;
     switch (event->type()) {
     case QEvent::ApplicationActivate:
         emit applicationActivated();
@@ -168,16 +167,12 @@ bool App::notify(QObject* receiver, QEvent* event)
     default:
         break;
     }
-    return QApplication::notify(receiver, event);
-}
-
-bool App::isUserFree()
-{
-    // The one event is the timer's own. A second one under it has opened a dialog, a menu or a file
-    // dialog of the desktop, or lets events through while it works; it could only go on once the
-    // new dialog is closed.
-    return eventDepth <= 1 && !activeModalWidget() && !activePopupWidget() &&
-           mouseButtons() == Qt::NoButton;
+    const bool isTaken = QApplication::notify(receiver, event);
+    // Events of worker threads come here, too, and some come before the gate is made.
+    if (m_dialogGate && QThread::currentThread() == thread()) {
+        m_dialogGate->eventEnded();
+    }
+    return isTaken;
 }
 
 void App::slotFocusChanged(QWidget*, QWidget*)

@@ -15,6 +15,7 @@ namespace QMWidgets
 {
 
 class BlenderWidget;
+class DialogGate;
 class HelpDialog;
 class UpdateCheck;
 struct UpdateService;
@@ -70,9 +71,6 @@ public:
     bool firstRun() const { return m_firstRun; }
     /// True for a build that a store distributes; this program is given out directly.
     bool isStoreBuild() const { return !m_directDistribution; }
-    /// Whether the user is left in peace by a dialog that opens by itself now: no other dialog or
-    /// menu is open, no mouse button is down, and the program does nothing but wait for him.
-    static bool isUserFree();
     /// Whom to ask for updates. Until this is called nobody is asked, and no request goes out.
     void setUpdateService(const UpdateService& service);
     /// The day this library was compiled.
@@ -83,8 +81,8 @@ public:
     /// The pictures of the help, in the order of the show. They are taken when the help is opened
     /// for the first time.
     void setHelpImages(const QStringList& paths) { m_helpImages = paths; }
-    /// Opens the help after half a second, unless the user has turned that off. If he is in the
-    /// middle of something by then, it waits until he is done.
+    /// Opens the help after half a second, or once DialogGate lets it through, unless the user has
+    /// turned that off.
     void showHelpIfDue();
     /// Some seconds from now comes an occasion for a reminder, of one of the types (ReminderType)
     /// whose bits are set. Every `period`th occasion shows it, counted over all runs; a period
@@ -127,8 +125,7 @@ signals:
     void dockClicked();
 
 public slots:
-    /// An occasion for a reminder. One that is due while the user is busy waits until he is not,
-    /// and is counted only then.
+    /// An occasion for a reminder. One that is due waits for DialogGate, and is counted only then.
     void slotCallRateReminderInternal();
     /// Set the type of the reminder and start the time to its occasion.
     void slotCallRateReminder();
@@ -146,7 +143,8 @@ public slots:
     void slotShowMoreApps();
     void slotRateApp();
     void slotSupportPage();
-    /// Runs the help as a modal dialog. It is kept, and goes on from the slide shown last.
+    /// Runs the help as a modal dialog over the active window. It is kept, and goes on from the
+    /// slide shown last.
     void slotHelp();
     void slotGoToPromotedApp();
     /// Run the dialogs that share the program, lead to the maker's pages and tell the version.
@@ -155,14 +153,15 @@ public slots:
     void slotAbout();
     /// Shows or hides the veil over the main window; without a main window nothing happens.
     void slotSetBlendMainWidget(bool on);
-    /// Asks whether there is a newer release and tells the user, also if that can't be found out.
+    /// Asks whether there is a newer release, with a busy cursor over the main window, and shows
+    /// the outcome, also if it can't be found out. Returns at once.
     virtual void slotCheckUpdate();
-    /// The check at the start: asks now and then, and tells the user only of a newer release. Waits
-    /// until he is free.
+    /// The check at the start: asks now and then, and shows the user only a newer release. Returns
+    /// at once.
     void nop_cuos();
 
 private:
-    void showHelpWhenFree();
+    void showHelpWhenGateOpens();
     void startReminderDelay();
 
     QSettings* m_settings = nullptr;
@@ -183,6 +182,7 @@ private:
     QString m_usesText;
     bool m_firstRun = false;
     bool m_directDistribution = false;
+    DialogGate* m_dialogGate = nullptr;
     QTimer* m_helpTimer;
     UpdateCheck* m_updateCheck = nullptr;
 };

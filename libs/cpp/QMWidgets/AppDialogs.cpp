@@ -1,6 +1,8 @@
 #include "AboutDialog.h"
 #include "App.h"
 #include "CssEditor.h"
+#include "DialogGate.h"
+#include "DialogParent.h"
 #include "HelpDialog.h"
 #include "JoinDialog.h"
 #include "TellDialog.h"
@@ -17,13 +19,9 @@ void App::showHelpIfDue()
     }
 }
 
-void App::showHelpWhenFree()
+void App::showHelpWhenGateOpens()
 {
-    if (isUserFree()) {
-        slotHelp();
-    } else {
-        m_helpTimer->start();
-    }
+    m_dialogGate->whenOpen([this] { slotHelp(); });
 }
 
 void App::slotHelp()
@@ -31,13 +29,20 @@ void App::slotHelp()
     // Whoever opens the help by hand has seen it for this start.
     m_helpTimer->stop();
     if (!m_helpDialog) {
-        m_helpDialog = new HelpDialog(activeWindow());
+        m_helpDialog = new HelpDialog(nullptr);
         for (const QString& path : qAsConst(m_helpImages)) {
             m_helpDialog->addSlide(path);
         }
     }
-    if (!m_helpDialog->isVisible()) {
-        m_helpDialog->exec();
+    if (m_helpDialog->isVisible()) {
+        return;
+    }
+    // Another dialog may be the active window, and it may go before the help is opened again. The
+    // help stays, since its numbers count on from one dialog to the next.
+    m_helpDialog->setParent(dialogParent(), m_helpDialog->windowFlags());
+    m_helpDialog->exec();
+    if (m_helpDialog) {
+        m_helpDialog->setParent(nullptr, m_helpDialog->windowFlags());
     }
 }
 

@@ -1,4 +1,6 @@
 #include "App.h"
+#include "DialogGate.h"
+#include "DialogParent.h"
 #include "JoinReminderDialog.h"
 #include "RateReminderDialog.h"
 #include "ReminderType.h"
@@ -87,11 +89,11 @@ void App::slotCallRateReminderInternal()
     }
     const int count = settingsValue(kAutoReminderCount, 1).toInt();
     if (m_reminderPeriod > 0 && count % m_reminderPeriod == 0) {
-        if (!isUserFree()) {
-            startReminderDelay();
+        if (!m_dialogGate->isOpen()) {
+            m_dialogGate->whenOpen([this] { slotCallRateReminderInternal(); });
             return;
         }
-        const int answer = remind(m_reminderType, activeWindow());
+        const int answer = remind(m_reminderType, dialogParent());
         if (answer == ReminderDialog::Now) {
             slotRateApp();
         }

@@ -1,11 +1,5 @@
 #include "UpdateAnswer.h"
 
-#include "UpdateService.h"
-
-#include <QCoreApplication>
-#include <QMRequest/Downloader.h>
-#include <QTimer>
-
 namespace QMWidgets
 {
 
@@ -23,24 +17,6 @@ QString updateAnswerText(const QByteArray& bytes)
 {
     const int zero = bytes.indexOf('\0');
     return QString::fromLatin1(zero < 0 ? bytes : bytes.left(zero));
-}
-
-std::optional<QString> fetchUpdateAnswer(const UpdateService& service)
-{
-    const QString page = QStringLiteral("/apps/appscontrol/updaterequest.php?appname=") +
-                         QCoreApplication::applicationName().toLower();
-    for (const QString& host : service.hosts) {
-        QMRequest::Downloader downloader;
-        QTimer::singleShot(service.timeLimit, &downloader, &QMRequest::Downloader::slotAbort);
-        const QString answer = updateAnswerText(downloader.get(host + page));
-        if (downloader.isBrokenOff()) {
-            return std::nullopt;
-        }
-        if (!answer.isEmpty()) {
-            return answer;
-        }
-    }
-    return QString();
 }
 
 } // namespace QMWidgets

@@ -1,14 +1,11 @@
 #pragma once
 
-#include <optional>
 #include <QByteArray>
 #include <QDate>
 #include <QString>
 
 namespace QMWidgets
 {
-
-struct UpdateService;
 
 enum class UpdateState : int {
     Latest = -1,
@@ -24,9 +21,5 @@ UpdateState readUpdateAnswer(const QString& answer, const QDate& buildDate);
 
 /// Text of an answer as it came: ASCII, up to the first zero byte.
 QString updateAnswerText(const QByteArray& bytes);
-
-/// Asks the hosts in their order until one gives an answer. Blocks, with the event loop running.
-/// Errors: empty if none answers in its time; nothing at all if the program is being closed.
-std::optional<QString> fetchUpdateAnswer(const UpdateService& service);
 
 } // namespace QMWidgets

@@ -2,10 +2,13 @@
 
 #include "App.h"
 #include "AppUpdateDialog.h"
+#include "DialogGate.h"
+#include "DialogParent.h"
 #include "MMessageBox.h"
+#include "UpdateRequest.h"
 #include "UpdateSettings.h"
 
-#include <QTimer>
+#include <QPointer>
 #include <utility>
 
 namespace QMWidgets
@@ -15,13 +18,12 @@ namespace
 {
 
 constexpr int kDaysBetweenChecks = 6;
-constexpr int kPause = 1000; // milliseconds until it is looked again whether the user is free
 
 /// A window for a dialog to lie upon. Not simply the main window: that is hidden at first, and a
 /// dialog that belongs to no visible window can get lost behind the one that it blocks.
 QWidget* frontWindow()
 {
-    if (QWidget* const active = QApplication::activeWindow()) {
+    if (QWidget* const active = dialogParent()) {
         return active;
     }
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -35,54 +37,54 @@ QWidget* frontWindow()
     return nullptr;
 }
 
+void showDialog(UpdateState state)
+{
+    // A parent that goes meanwhile takes the dialog with it.
+    const QPointer<AppUpdateDialog> dialog =
+        new AppUpdateDialog(state == UpdateState::Newer, frontWindow());
+    dialog->exec();
+    delete dialog;
+}
+
+void showError()
+{
+    QWidget* const active = dialogParent();
+    MMessageBox::critical(
+        active ? active : App::app()->mainWidget(),
+        QCoreApplication::applicationName() + UpdateCheck::tr(" Updates Check Error"),
+        UpdateCheck::tr(
+            "<H3>No internet connection is available,<br>please, check the firewall settings "
+            "and make sure that<br>you are not using the the internet connection via the proxy "
+            "server.</H3>"), // sic
+        QMessageBox::Ok);
+}
+
 } // namespace
 
-UpdateCheck::UpdateCheck(QObject* parent)
-    : QObject(parent)
+UpdateCheck::UpdateCheck(DialogGate* gate, QObject* parent)
+    : QObject(parent),
+      m_gate(gate)
 {
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &UpdateCheck::breakOff);
 }
 
 void UpdateCheck::runForUser()
 {
-    if (m_isAsking) {
-        m_userWaits = true;
-        return;
-    }
-    const std::optional<UpdateState> state = ask();
-    if (state) {
-        tell(*state);
+    m_isForUser = true;
+    if (!m_outcome) {
+        m_busyCursor.emplace(App::app()->mainWidget());
+        ask();
     }
 }
 
 void UpdateCheck::runQuietly()
 {
-    // Inside another event, such as a drop that is being worked on, the wait for the answer would
-    // hold that up.
-    if (m_isAsking || !App::isUserFree()) {
-        QTimer::singleShot(kPause, this, &UpdateCheck::runQuietly);
-        return;
-    }
     const QDate last = UpdateSettings::lastCheck();
     if (!last.isValid()) {
         UpdateSettings::setLastCheck(QDate::currentDate());
-        return;
-    }
-    if (!isDue(last, QDate::currentDate())) {
-        return;
-    }
-    const std::optional<UpdateState> state = ask();
-    if (!state) {
-        return;
-    }
-    if (std::exchange(m_userWaits, false)) {
-        tell(*state);
-    } else if (*state == UpdateState::Newer) {
-        m_newsWaits = true;
-        showNews();
-        return;
-    }
-    if (*state != UpdateState::Unknown) {
-        UpdateSettings::setLastCheck(QDate::currentDate());
+    } else if (isDue(last, QDate::currentDate())) {
+        m_isForStart = true;
+        ask();
     }
 }
 
@@ -91,48 +93,55 @@ bool UpdateCheck::isDue(const QDate& last, const QDate& today)
     return last.daysTo(today) >= kDaysBetweenChecks;
 }
 
-/// Nothing comes out if the program is being closed.
-std::optional<UpdateState> UpdateCheck::ask()
+void UpdateCheck::ask()
 {
-    m_isAsking = true;
-    m_userWaits = false;
-    const std::optional<QString> answer = fetchUpdateAnswer(m_service);
-    m_isAsking = false;
-    if (!answer) {
-        return std::nullopt;
+    if (isRunning()) {
+        return;
     }
-    return readUpdateAnswer(*answer, App::app()->buildDate());
+    m_request = new UpdateRequest(m_service, this);
+    connect(m_request, &UpdateRequest::answered, this, &UpdateCheck::takeAnswer);
+    m_request->start();
 }
 
-void UpdateCheck::tell(UpdateState state)
+void UpdateCheck::takeAnswer(const QString& answer)
 {
-    m_newsWaits = false;
+    std::exchange(m_request, nullptr)->deleteLater();
+    m_busyCursor.reset();
+    const UpdateState state = readUpdateAnswer(answer, App::app()->buildDate());
+    if (m_isForUser || state == UpdateState::Newer) {
+        m_outcome = state;
+        m_gate->whenOpen([this] { showOutcome(); });
+    } else {
+        end(state);
+    }
+}
+
+void UpdateCheck::showOutcome()
+{
+    const UpdateState state = *m_outcome;
     if (state == UpdateState::Unknown) {
-        MMessageBox::critical(
-            App::app()->mainWidget(),
-            QCoreApplication::applicationName() + tr(" Updates Check Error"),
-            tr("<H3>No internet connection is available,<br>please, check the firewall settings "
-               "and make sure that<br>you are not using the the internet connection via the proxy "
-               "server.</H3>"), // sic
-            QMessageBox::Ok);
-        return;
+        showError();
+    } else {
+        showDialog(state);
     }
-    AppUpdateDialog dialog(state == UpdateState::Newer, frontWindow());
-    dialog.exec();
+    m_outcome.reset();
+    end(state);
 }
 
-/// Tells what a quiet check found, as soon as the user is free and unless he has asked and been
-/// told in the meantime. Either way the check counts as made.
-void UpdateCheck::showNews()
+void UpdateCheck::end(UpdateState state)
 {
-    if (!App::isUserFree()) {
-        QTimer::singleShot(kPause, this, &UpdateCheck::showNews);
-        return;
+    m_isForUser = false;
+    if (std::exchange(m_isForStart, false) && state != UpdateState::Unknown) {
+        UpdateSettings::setLastCheck(QDate::currentDate());
     }
-    if (m_newsWaits) {
-        tell(UpdateState::Newer);
-    }
-    UpdateSettings::setLastCheck(QDate::currentDate());
+}
+
+void UpdateCheck::breakOff()
+{
+    delete std::exchange(m_request, nullptr);
+    m_busyCursor.reset();
+    m_outcome.reset();
+    end(UpdateState::Unknown);
 }
 
 } // namespace QMWidgets

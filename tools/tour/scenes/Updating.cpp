@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QMenu>
+#include <QMWidgets/UpdateCheck.h>
 #include <QMWidgets/UpdateService.h>
 #include <QPushButton>
 
@@ -19,6 +20,14 @@ bool isCheckedAtStart()
     return App::app()->settingsValue(kCheckedAtStart, true).toBool();
 }
 
+/// Waits until the check that is under way has shown its outcome.
+void waitForOutcome(Stage& stage)
+{
+    const auto* const check = App::app()->findChild<QMWidgets::UpdateCheck*>();
+    stage.waitFor([check] { return !check->isRunning(); },
+                  QStringLiteral("the outcome of the check"));
+}
+
 /// Chooses the menu's entry; `act` has to end the dialog that tells the outcome.
 void withCheck(Stage& stage, const QString& outcome, const Stage::DialogAct& act)
 {
@@ -26,6 +35,7 @@ void withCheck(Stage& stage, const QString& outcome, const Stage::DialogAct& act
         stage.withMenu(stage.find<QPushButton>(QStringLiteral("AppButton")), [&](QMenu* menu) {
             stage.chooseEntry(menu, QStringLiteral("Check Updates"));
         });
+        waitForOutcome(stage);
     };
     stage.withDialogs(choose, outcome, {act});
 }
@@ -34,9 +44,12 @@ void withCheck(Stage& stage, const QString& outcome, const Stage::DialogAct& act
 void showNewsAtStart(Stage& stage)
 {
     App::app()->setSettingsValue(QStringLiteral("LastUpdateCheck"), QStringLiteral("2001-01-01"));
+    const auto start = [&stage] {
+        App::app()->nop_cuos();
+        waitForOutcome(stage);
+    };
     stage.withDialogs(
-        [] { App::app()->nop_cuos(); }, QStringLiteral("the news at the start"),
-        {[&stage](QWidget* dialog) {
+        start, QStringLiteral("the news at the start"), {[&stage](QWidget* dialog) {
             stage.shootTogether(QStringLiteral("start"), {stage.dropWindow(), dialog});
             stage.clickButton(dialog, QStringLiteral("No"));
         }});

@@ -1,15 +1,21 @@
 #include "app/Startup.h"
 #include "flow/InitLabel.h"
+#include "support/ImageCompare.h"
+#include "support/Photos.h"
 #include "support/TestMain.h"
 
 #include <QApplication>
 #include <QMap>
 #include <QMouseEvent>
 #include <QMWidgets/App.h>
+#include <QMWidgets/ImageArea.h>
 #include <QMWidgets/MovieLabel.h>
 #include <QMWidgets/StepButtons.h>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSlider>
+
+using QMWidgets::ImageArea;
 
 namespace
 {
@@ -99,6 +105,28 @@ private slots:
         readFromRight(true);
         QCOMPARE(next->grab().toImage(), left);
         QCOMPARE(previous->grab().toImage(), right);
+    }
+
+    void theLargeViewShowsAllOfAFittedPicture()
+    {
+        ImageArea area;
+        area.setSingleImage(true); // nothing lies over the picture
+        area.resize(300, 200);
+        area.show();
+        QVERIFY(QTest::qWaitForWindowActive(&area));
+        const QImage picture = noise(area.size() * 2, 1, QImage::Format_RGB32, true);
+        area.setPixmap(QPixmap::fromImage(picture));
+        const QImage fitted =
+            picture.scaled(area.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        const auto shown = [&area] {
+            return area.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        COMPARE_IMAGES(shown(), fitted);
+        auto* const scroll = area.findChild<QScrollArea*>();
+        scroll->setFocus(Qt::MouseFocusReason);
+        QTest::keyClick(scroll, Qt::Key_Down);
+        QTest::keyClick(scroll, Qt::Key_Right);
+        COMPARE_IMAGES(shown(), fitted);
     }
 
     void theArrowStandsAtTheAddButton()

@@ -1,5 +1,6 @@
 #include "ImageArea.h"
 
+#include "FocusRingOverlay.h"
 #include "FollowLanguage.h"
 #include "StepButtons.h"
 
@@ -52,6 +53,7 @@ ImageArea::ImageArea(QWidget* parent)
     m_scrollArea->setWidget(m_imageLabel);
     followLanguage(m_scrollArea, [this] { m_scrollArea->setAccessibleName(tr("Picture")); });
     m_scrollArea->setFrameShape(QFrame::NoFrame);
+    new FocusRingOverlay(m_scrollArea);
 
     m_loadingMovie.setScaledSize(QSize(kMovieSize, kMovieSize));
     m_loadingLabel->setObjectName(QStringLiteral("ImageLoadingLabel"));

@@ -81,6 +81,32 @@ private slots:
         QVERIFY(popup->isHidden());
         QVERIFY(changed.isEmpty());
     }
+
+    void opensAtTheCurrentColor()
+    {
+        ColorWidget widget;
+        widget.show();
+        QVERIFY(QTest::qWaitForWindowActive(&widget));
+        auto* const popup = widget.findChild<ColorWidgetPopup*>();
+        const auto looks = [popup](int row, int column) {
+            buttonAt(popup, row, column)->clearFocus();
+            return buttonAt(popup, row, column)->grab().toImage();
+        };
+        const QImage unmarked = looks(2, 2);
+        const struct {
+            QColor color;
+            QPoint cell;
+        } rows[] = {{QColor(255, 128, 0), {2, 2}}, {QColor(1, 2, 3), {0, 0}}, {QColor(), {0, 0}}};
+        for (const auto& row : rows) {
+            widget.setColor(row.color);
+            QTest::keyClick(&widget, Qt::Key_Space);
+            const bool isMarked = row.cell != QPoint();
+            QCOMPARE(QApplication::focusWidget(), buttonAt(popup, row.cell.y(), row.cell.x()));
+            QCOMPARE(looks(2, 2) != unmarked, isMarked);
+            QCOMPARE(buttonAt(popup, 0, 0)->isChecked(), false);
+            popup->hide();
+        }
+    }
 };
 
 TESSARIN_TEST(tst_ColorWidget);

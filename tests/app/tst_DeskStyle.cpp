@@ -8,6 +8,7 @@
 #include <QMap>
 #include <QMouseEvent>
 #include <QMWidgets/App.h>
+#include <QMWidgets/ColorWidgetPopup.h>
 #include <QMWidgets/ImageArea.h>
 #include <QMWidgets/MovieLabel.h>
 #include <QMWidgets/StepButtons.h>
@@ -127,6 +128,14 @@ private slots:
         QTest::keyClick(scroll, Qt::Key_Down);
         QTest::keyClick(scroll, Qt::Key_Right);
         COMPARE_IMAGES(shown(), fitted);
+    }
+
+    void thePaletteHasItsFrame()
+    {
+        QMWidgets::ColorWidgetPopup popup(nullptr);
+        const QImage shown = popup.grab().toImage();
+        QCOMPARE(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor(128, 128, 128));
+        QCOMPARE(shown.pixelColor(3, 3), QColor(40, 40, 40));
     }
 
     void theArrowStandsAtTheAddButton()

@@ -93,6 +93,7 @@ void ColorWidget::keyPressEvent(QKeyEvent* event)
 void ColorWidget::togglePopup()
 {
     m_popup->move(mapToGlobal(QPoint(0, height())));
+    m_popup->setCurrentColor(m_color);
     m_popup->setVisible(!m_popup->isVisible());
 }
 

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QImage>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
 
 namespace QMWidgets
@@ -16,6 +17,7 @@ namespace
 constexpr int kRows = 6;
 constexpr int kColumns = 8;
 constexpr int kButtonSize = 20;
+constexpr int kMarkSize = 8;
 
 // Deliberate: the third colour of the last row leaves its column's pattern. Flows hold colours that
 // were chosen here, so the palette stays as it is.
@@ -27,10 +29,46 @@ constexpr QRgb kPalette[kRows][kColumns] = {
     {0x404040, 0x800000, 0x804000, 0x808000, 0x008000, 0x008080, 0x000080, 0x800080},
     {0x000000, 0x400000, 0x804040, 0x404000, 0x004000, 0x004040, 0x000040, 0x400040}};
 
-QPushButton* colorButton(const QColor& color, QWidget* parent)
+/// A cell of the palette. That of the current colour is checked and carries a mark which is seen on
+/// any colour.
+class ColorCell : public QPushButton
 {
-    auto* button = new QPushButton(parent);
+public:
+    explicit ColorCell(QWidget* parent)
+        : QPushButton(parent)
+    {
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QPushButton::paintEvent(event);
+        if (!isChecked()) {
+            return;
+        }
+        QPainter painter(this);
+        painter.fillRect(markRect(kMarkSize), Qt::white);
+        painter.fillRect(markRect(kMarkSize - 2), Qt::black);
+    }
+
+private:
+    QRect markRect(int size) const
+    {
+        return {(width() - size) / 2, (height() - size) / 2, size, size};
+    }
+};
+
+QColor colorOf(const QPushButton* button)
+{
+    const QImage picture = button->icon().pixmap(kButtonSize, kButtonSize).toImage();
+    return QColor(picture.pixel(0, 0));
+}
+
+QPushButton* makeCell(const QColor& color, QWidget* parent)
+{
+    auto* button = new ColorCell(parent);
     button->setFlat(true);
+    button->setCheckable(true);
     button->setFixedSize(kButtonSize, kButtonSize);
     // So that Enter chooses as Space does.
     button->setAutoDefault(true);
@@ -48,6 +86,7 @@ ColorWidgetPopup::ColorWidgetPopup(QWidget* parent, Qt::WindowFlags flags)
 {
     setWindowFlags(Qt::Popup);
     setObjectName(QStringLiteral("ColorWidgetPopup"));
+    setAttribute(Qt::WA_StyledBackground, true); // or the style sheet's frame isn't drawn
     setAccessibleName(tr("Colors"));
     setMinimumSize(30, 15);
     auto* grid = new QGridLayout(this);
@@ -55,7 +94,7 @@ ColorWidgetPopup::ColorWidgetPopup(QWidget* parent, Qt::WindowFlags flags)
     grid->setSpacing(2);
     for (int row = 0; row < kRows; ++row) {
         for (int column = 0; column < kColumns; ++column) {
-            QPushButton* button = colorButton(QColor(kPalette[row][column]), this);
+            QPushButton* button = makeCell(QColor(kPalette[row][column]), this);
             connect(button, &QPushButton::clicked, this, &ColorWidgetPopup::slotColorChanged);
             grid->addWidget(button, row, column);
         }
@@ -68,11 +107,21 @@ QString ColorWidgetPopup::caption(const QColor& color)
     return tr("Color %1").arg(color.name());
 }
 
+void ColorWidgetPopup::setCurrentColor(const QColor& color)
+{
+    const auto cells = findChildren<QPushButton*>();
+    QPushButton* current = cells.first();
+    for (QPushButton* const cell : cells) {
+        cell->setChecked(color.isValid() && colorOf(cell).rgb() == color.rgb());
+        current = cell->isChecked() ? cell : current;
+    }
+    current->setFocus(Qt::PopupFocusReason);
+}
+
 void ColorWidgetPopup::slotColorChanged()
 {
     if (const auto* button = qobject_cast<QPushButton*>(sender())) {
-        const QImage picture = button->icon().pixmap(kButtonSize, kButtonSize).toImage();
-        emit colorChanged(QColor(picture.pixel(0, 0)));
+        emit colorChanged(colorOf(button));
     }
     m_mouseInside = false;
     hide();

@@ -18,6 +18,10 @@ public:
     /// The name by which people who don't see a colour are told it.
     static QString caption(const QColor& color);
 
+    /// Marks the cell of a colour and puts the keyboard there; for a colour that the palette lacks
+    /// no cell is marked, and the keyboard is at the first one.
+    void setCurrentColor(const QColor& color);
+
 signals:
     /// The user chose a colour; comes for the colour chosen before, too.
     void colorChanged(const QColor& color);

@@ -1,9 +1,11 @@
+#include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
 #include <QMWidgets/App.h>
 #include <QMWidgets/Label.h>
 #include <QPainter>
+#include <QProcess>
 
 using QMWidgets::App;
 using QMWidgets::Label;
@@ -75,16 +77,41 @@ private slots:
         }
     }
 
+    /// Each pixel of the picture is one of the screen, wherever the label begins between two.
     void isSharpOnThisScreen()
     {
-        const int ratio = int(App::devicePixelRatio());
-        const QImage picture = noise(QSize(40, 20) * ratio, 1, QImage::Format_RGB32, true);
-        Label label;
-        label.resize(40, 40);
-        label.setPixmap(QPixmap::fromImage(picture));
-        QImage shown = grabbed(label).copy(QRect(QPoint(0, 10) * ratio, picture.size()));
-        shown.setDevicePixelRatio(1);
-        QCOMPARE(shown, picture);
+        const double ratio = App::devicePixelRatio();
+        for (const QSize& size : {QSize(90, 90), QSize(41, 99)}) {
+            const QSize box(int(size.width() * ratio), int(size.height() * ratio));
+            const QSize fitted = QSize(300, 200).scaled(box, Qt::KeepAspectRatio);
+            const QImage picture = noise(fitted, 1, QImage::Format_RGB32, true);
+            for (int place = 0; place < 8; ++place) {
+                QWidget window;
+                window.setStyleSheet(QStringLiteral("background-color: white"));
+                Label label(&window);
+                label.setGeometry(QRect(QPoint(place, place), size));
+                label.setPixmap(QPixmap::fromImage(picture));
+                const QImage all = window.grab().toImage().convertToFormat(picture.format());
+                QImage shown = all.copy(boundsOf(all));
+                shown.setDevicePixelRatio(1);
+                COMPARE_IMAGES(shown, picture);
+            }
+        }
+    }
+
+    void isSharpAtEachRatio()
+    {
+        for (const char* ratio :
+             {"1.04", "1.1", "1.15", "1.25", "1.3", "1.5", "1.67", "1.75", "2.5"}) {
+            QProcess self;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QLatin1String(ratio));
+            self.setProcessEnvironment(environment);
+            self.start(QCoreApplication::applicationFilePath(),
+                       {QStringLiteral("isSharpOnThisScreen")});
+            const bool isSharp = self.waitForFinished(-1) && self.exitCode() == 0;
+            QVERIFY2(isSharp, ratio + QByteArray(": ") + self.readAllStandardOutput());
+        }
     }
 };
 

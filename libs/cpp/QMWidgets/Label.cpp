@@ -7,6 +7,18 @@
 namespace QMWidgets
 {
 
+namespace
+{
+
+/// The place where the nearest device pixel begins.
+QPointF onDevicePixel(const QPointF& place, const QPainter& painter)
+{
+    const QTransform toDevice = painter.deviceTransform();
+    return toDevice.inverted().map(QPointF(toDevice.map(place).toPoint()));
+}
+
+} // namespace
+
 Label::Label(QWidget* parent)
     : QLabel(parent)
 {
@@ -36,7 +48,10 @@ void Label::paintEvent(QPaintEvent* event)
         place = QPoint(int((width() - scaledWidth) * 0.5), int((height() - scaledHeight) * 0.5));
     }
     QPainter painter(this);
-    painter.drawPixmap(QRect(place, QSize(int(scaledWidth), int(scaledHeight))), scaled, QRect());
+    // Not rounded to logical pixels, of which one may be more than a device pixel: squeezed by less
+    // than one, the picture would lose a whole row or column.
+    const QRectF target(onDevicePixel(place, painter), QSizeF(scaledWidth, scaledHeight));
+    painter.drawPixmap(target, scaled, scaled.rect());
 }
 
 } // namespace QMWidgets

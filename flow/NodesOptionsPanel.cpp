@@ -5,7 +5,7 @@
 #include "flow/Operations.h"
 #include "intake/CommonData.h"
 #include <MGraphX/OpaqueScaling.h>
-#include <QMWidgets/App.h>
+#include <QMWidgets/DevicePixels.h>
 #include <QMWidgets/TabOrder.h>
 
 #include <QCoreApplication>
@@ -113,7 +113,7 @@ void NodesOptionsPanel::runChain(quint64 run)
 
 QImage NodesOptionsPanel::workingCopy() const
 {
-    const int limit = int(kPreviewWidth * QMWidgets::App::devicePixelRatio());
+    const int limit = QMWidgets::wholeDevicePixels(kPreviewWidth);
     // Deliberate: only the width counts, so a narrow picture keeps its full height.
     if (CommonData::instance()->previewMode() && limit < m_sourceImage.width()) {
         const QSize box(limit, limit);

@@ -81,8 +81,9 @@ private slots:
     void isSharpOnThisScreen()
     {
         const double ratio = App::devicePixelRatio();
-        for (const QSize& size : {QSize(90, 90), QSize(41, 99)}) {
-            const QSize box(int(size.width() * ratio), int(size.height() * ratio));
+        for (const QSize& size : {QSize(90, 90), QSize(41, 99), QSize(100, 180)}) {
+            // 100 times 1.15 is less than 115 as a binary number.
+            const QSize box(int(size.width() * ratio + 0.001), int(size.height() * ratio + 0.001));
             const QSize fitted = QSize(300, 200).scaled(box, Qt::KeepAspectRatio);
             const QImage picture = noise(fitted, 1, QImage::Format_RGB32, true);
             for (int place = 0; place < 8; ++place) {

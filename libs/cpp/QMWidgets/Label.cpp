@@ -1,6 +1,7 @@
 #include "Label.h"
 
 #include "App.h"
+#include "DevicePixels.h"
 
 #include <QPainter>
 
@@ -34,7 +35,7 @@ void Label::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
     const double ratio = App::devicePixelRatio();
-    const QSize box(int(width() * ratio), int(height() * ratio));
+    const QSize box(wholeDevicePixels(width()), wholeDevicePixels(height()));
     if (m_pixmap.isNull() || box.isEmpty()) {
         return;
     }

@@ -1,16 +1,19 @@
 #include "Options.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 
 namespace
 {
 
+/// Tours that start in the same second differ by their process.
 QString defaultFolder()
 {
     return QDir::temp().filePath(
-        QStringLiteral("tessarin-tour-") +
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss")));
+        QStringLiteral("tessarin-tour-%1-%2")
+            .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd_hh-mm-ss")))
+            .arg(QCoreApplication::applicationPid()));
 }
 
 } // namespace

@@ -10,8 +10,15 @@ class Stage;
 /// The folder that holds a folder for each batch.
 QString resultsFolder();
 
-/// Folders of the batches, the newest last.
 QStringList batchFolders();
+
+/// The folder that a batch has made since the folders were listed; empty, with a complaint, unless
+/// it is exactly one.
+QString folderMadeSince(Stage& stage, const QStringList& before);
+
+/// Names the folder of a batch after its scene, in place of one that an earlier tour named so.
+/// Batches of the same second share a folder: one that is renamed is not in the way of the next.
+void keepResults(Stage& stage, const QString& folder, const QString& sceneName);
 
 /// What one expects of a batch's results.
 struct ExpectedResult {

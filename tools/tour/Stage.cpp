@@ -9,6 +9,7 @@
 #include "support/DropEvents.h"
 #include <QMWidgets/PromoMenuBar.h>
 
+#include <QAbstractAnimation>
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
@@ -22,7 +23,8 @@
 namespace
 {
 
-constexpr int kPatience = 30000; // milliseconds
+/// Milliseconds: long, since a busy machine takes its time, and only a failure uses it up.
+constexpr int kPatience = 5 * 60000;
 
 QMWidgets::App* makeApp(int& argc, char** argv)
 {
@@ -79,7 +81,8 @@ void Stage::open(const QString& sceneName)
                          m_result = image;
                          ++m_resultCount;
                      });
-    check(QTest::qWaitForWindowExposed(dropWindow()), QStringLiteral("the drop window opens"));
+    check(QTest::qWaitForWindowExposed(dropWindow(), kPatience),
+          QStringLiteral("the drop window opens"));
 }
 
 MainPage* Stage::page() const
@@ -122,7 +125,7 @@ void Stage::drop(const QStringList& paths, QWidget* target)
 void Stage::dropPhotos()
 {
     expectResult([this] { drop(m_photos, dropWindow()); }, QStringLiteral("the first photo"));
-    check(QTest::qWaitForWindowExposed(page()), QStringLiteral("the page opens"));
+    check(QTest::qWaitForWindowExposed(page(), kPatience), QStringLiteral("the page opens"));
     check(!dropWindow()->isVisible(), QStringLiteral("the drop window goes"));
     restPointer();
 }
@@ -260,6 +263,13 @@ void Stage::clickButton(QWidget* dialog, const QString& english)
     }
     check(false, QStringLiteral("there is a button ") + english);
     dialog->close();
+}
+
+void Stage::waitUntilGrown(const QWidget* largeView)
+{
+    // The animation goes when it has ended.
+    waitFor([largeView] { return !largeView->findChild<QAbstractAnimation*>(); },
+            QStringLiteral("the large view grows"));
 }
 
 void Stage::shoot(const QString& name, QWidget* widget)

@@ -25,7 +25,7 @@ class QSlider;
 ///
 /// A verb that can't do its work complains and leaves things as they are, so that a scene goes on
 /// to its end; the complaints make the tour fail. Waits end with what they wait for, or with a
-/// complaint after half a minute.
+/// complaint after five minutes.
 class Stage
 {
 public:
@@ -89,6 +89,9 @@ public:
     /// Clicks the button of a dialog that shows the text and can be seen. A dialog that has none is
     /// closed, since nothing else would end it.
     void clickButton(QWidget* dialog, const QString& english);
+
+    /// Waits until the large view has come to its place: until then it undoes a change of size.
+    void waitUntilGrown(const QWidget* largeView);
 
     void shoot(const QString& name, QWidget* widget = nullptr);
     void shootTogether(const QString& name, const QWidgetList& windows);

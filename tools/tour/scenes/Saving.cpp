@@ -57,13 +57,7 @@ QString runBatch(Stage& stage, const Stage::DialogAct& act)
     const QStringList before = batchFolders();
     stage.withDialog(stage.find<QPushButton>(QStringLiteral("RunBatchButton")),
                      QStringLiteral("the batch dialog"), act);
-    QStringList after = batchFolders();
-    for (const QString& folder : before) {
-        after.removeAll(folder);
-    }
-    return stage.check(after.size() == 1, QStringLiteral("a folder of results is made"))
-               ? after.first()
-               : QString();
+    return folderMadeSince(stage, before);
 }
 
 QVector<ExpectedResult> expectedResults(const QString& suffix)
@@ -97,6 +91,7 @@ void saveResults(Stage& stage)
     stage.check(!opened.isEmpty() &&
                     QDir::cleanPath(opened.last().toLocalFile()) == QDir::cleanPath(folder),
                 QStringLiteral("the folder of results opens"));
+    keepResults(stage, folder, QStringLiteral("save"));
 }
 
 void saveRenamed(Stage& stage)
@@ -117,6 +112,7 @@ void saveRenamed(Stage& stage)
         number += 2;
     }
     checkResults(stage, folder, expected);
+    keepResults(stage, folder, QStringLiteral("rename"));
 }
 
 void saveReadable(Stage& stage)
@@ -131,8 +127,8 @@ void saveReadable(Stage& stage)
     stage.addOperation(QStringLiteral("Grayscale"));
     stage.shoot(QStringLiteral("page"));
     const QString folder = runBatch(stage, [](QWidget*) {});
-    const QStringList results = QDir(folder).entryList(QDir::Files);
-    stage.check(!folder.isEmpty() && results.size() == 1,
+    stage.check(!folder.isEmpty() && QDir(folder).entryList(QDir::Files).size() == 1,
                 QStringLiteral("only the photo has a result"));
+    keepResults(stage, folder, QStringLiteral("unreadable"));
     QFile::remove(text);
 }

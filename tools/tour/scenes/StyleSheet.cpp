@@ -27,8 +27,8 @@ void editStyleSheet(Stage& stage)
 {
     stage.dropPhotos();
     QPointer<QMWidgets::CssEditor> editor = openEditor();
-    if (!stage.check(editor && QTest::qWaitForWindowActive(editor),
-                     QStringLiteral("the editor opens"))) {
+    if (!stage.waitFor([&editor] { return editor && editor->isActiveWindow(); },
+                       QStringLiteral("the editor opens"))) {
         return;
     }
     const QString sheet = qApp->styleSheet();

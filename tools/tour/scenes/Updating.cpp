@@ -14,6 +14,7 @@ namespace
 {
 
 const QString kCheckedAtStart = QStringLiteral("checkupdates");
+constexpr int kTimeLimit = 5 * 60000; // milliseconds: a busy machine takes its time
 
 bool isCheckedAtStart()
 {
@@ -71,7 +72,7 @@ void checkUpdates(Stage& stage)
 {
     // This program on this machine is all that is ever asked.
     HttpServer server(HttpServer::ok("!date!;;;9999-12-31"));
-    App::app()->setUpdateService({{server.host()}});
+    App::app()->setUpdateService({{server.host()}, kTimeLimit});
     showNewsAtStart(stage);
 
     stage.dropPhotos();
@@ -91,7 +92,7 @@ void checkUpdates(Stage& stage)
         stage.clickButton(dialog, QStringLiteral("No"));
     });
 
-    App::app()->setUpdateService({{HttpServer::refusingHost()}});
+    App::app()->setUpdateService({{HttpServer::refusingHost()}, kTimeLimit});
     withCheck(stage, QStringLiteral("the error"), [&stage](QWidget* dialog) {
         stage.shoot(QStringLiteral("error"), dialog);
         stage.clickButton(dialog, QStringLiteral("Ok"));

@@ -11,12 +11,9 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
-#include <QTest>
 
 namespace
 {
-
-constexpr int kGrowTime = 1200; // milliseconds, with some to spare
 
 /// The large view while it is open.
 struct View {
@@ -42,11 +39,10 @@ struct View {
 
 void waitUntilGrown(View& view)
 {
-    // Its last frames change nothing that could be seen, but they would undo a change of size.
-    QTest::qWait(kGrowTime);
+    view.stage.waitUntilGrown(view.dialog);
     const int width = int(0.7f * float(view.dialog->screen()->virtualSize().width()));
-    view.stage.waitFor([&view, width] { return view.dialog->width() == width; },
-                       QStringLiteral("the large view grows to its size"));
+    view.stage.check(view.dialog->width() == width,
+                     QStringLiteral("the large view has grown to its size"));
     // On a small screen the controls would lie outside.
     view.dialog->resize(view.dialog->size().expandedTo(QSize(560, 440)));
 }

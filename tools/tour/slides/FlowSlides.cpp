@@ -13,13 +13,11 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
-#include <QTest>
 
 namespace
 {
 
 constexpr int kSaveEntry = 1;                 // of the flows' menu
-constexpr int kGrowTime = 1200;               // milliseconds, with some to spare
 constexpr QRect kLargeView(24, 92, 687, 440); // on the page, below the button that opens it
 
 /// Lays a button's menu upon it, with an entry in hand, as on a large screen: the one at hand may
@@ -148,7 +146,7 @@ void slideOfViewing(SlideSet& set)
     auto* const button =
         stage.find<QPushButton>(QStringLiteral("PreviewButton"), stage.find<Representor>());
     stage.withDialog(button, QStringLiteral("the large view"), [&](QWidget* dialog) {
-        QTest::qWait(kGrowTime);
+        stage.waitUntilGrown(dialog);
         dialog->setGeometry(kLargeView.translated(stage.page()->mapToGlobal(QPoint(0, 0))));
         auto* const slider = stage.find<QSlider>(QStringLiteral("ImageViewSlider"), dialog);
         auto* const scroll = stage.find<QScrollArea>(dialog);

@@ -61,9 +61,9 @@ void slideOfSaving(SlideSet& set)
         });
     });
     stage.check(shown, QStringLiteral("the batch passes two fifths"));
-    const QStringList after = batchFolders();
-    if (stage.check(after.size() == before.size() + 1, QStringLiteral("a folder is made"))) {
-        const QDir folder(after.last());
+    const QString made = folderMadeSince(stage, before);
+    if (!made.isEmpty()) {
+        const QDir folder(made);
         for (const QString& name : folder.entryList(QDir::Files, QDir::Name)) {
             set.results.append(folder.filePath(name));
         }

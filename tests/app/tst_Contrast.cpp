@@ -141,7 +141,7 @@ private:
         dialog.setViewMode(QFileDialog::Detail);
         dialog.show();
         auto* const tree = dialog.findChild<QTreeView*>();
-        QTRY_VERIFY(tree->model()->rowCount(tree->rootIndex()) > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(tree->model()->rowCount(tree->rootIndex()) > 0, 60000);
         tree->setCurrentIndex(tree->model()->index(0, 0, tree->rootIndex()));
         look(&dialog, "with a file in hand");
     }

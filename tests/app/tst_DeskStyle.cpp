@@ -145,10 +145,10 @@ private slots:
         label.show();
         const auto* const arrow = label.findChild<QMWidgets::MovieLabel*>();
         readFromRight(true);
-        QTRY_VERIFY(arrow->x() > 600);
+        QTRY_VERIFY_WITH_TIMEOUT(arrow->x() > 600, 60000);
         QCOMPARE(arrow->movie()->state(), QMovie::Running);
         readFromRight(false);
-        QTRY_VERIFY(arrow->x() < 10);
+        QTRY_VERIFY_WITH_TIMEOUT(arrow->x() < 10, 60000);
         QCOMPARE(arrow->movie()->state(), QMovie::Running);
     }
 };

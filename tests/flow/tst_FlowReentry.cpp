@@ -101,7 +101,7 @@ private slots:
                 QCoreApplication::processEvents();
             }
             QVERIFY(letGo);
-            QTRY_COMPARE(flow.names().size(), 5 - removals);
+            QTRY_COMPARE_WITH_TIMEOUT(flow.names().size(), 5 - removals, 60000);
         }
     }
 

@@ -107,7 +107,7 @@ private slots:
         panel.creator.setFiles(many);
         panel.showStrip();
         panel.creator.slotPrevious();
-        QTRY_VERIFY(panel.view()->verticalScrollBar()->value() > 0);
+        QTRY_VERIFY_WITH_TIMEOUT(panel.view()->verticalScrollBar()->value() > 0, 60000);
         QTimer::singleShot(0, &panel.creator, [&] { panel.creator.setFiles({photo}); });
         panel.creator.slotPrevious();
         QCOMPARE(panel.view()->model()->rowCount(), 1);

@@ -66,7 +66,11 @@ private slots:
         spinBox->setFocus();
         QVERIFY(QTest::qWaitForWindowActive(&flow));
         bool aliveAfterTheRun = false;
-        inTheNextRun(flow, [&] { postClick(flow.button("PushButtonRemove")); });
+        bool stillInTheFlow = false;
+        inTheNextRun(flow, [&] {
+            postClick(flow.button("PushButtonRemove"));
+            stillInTheFlow = flow.names().size() == 3; // the click waits for the run's next pause
+        });
         connect(spinBox, qOverload<int>(&QSpinBox::valueChanged), &flow,
                 [&] { aliveAfterTheRun = !binary.isNull(); });
         postKey(spinBox, Qt::Key_Up);
@@ -74,6 +78,7 @@ private slots:
         QEventLoop loop;
         connect(binary, &QObject::destroyed, &loop, &QEventLoop::quit);
         loop.exec();
+        QVERIFY(stillInTheFlow);
         QVERIFY(aliveAfterTheRun);
         QCOMPARE(flow.names(), QStringList({kInvert, kGray}));
     }

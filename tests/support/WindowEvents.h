@@ -6,8 +6,7 @@
 #include <QWidget>
 #include <QWindow>
 
-// What the toolkit's own test functions are built on: events as they come from the window system.
-// They lie in its queue until the event loop, or processEvents, takes them out.
+// What Qt's own test functions are built on. They deliver an event before they return.
 Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
                                       Qt::MouseButtons state, Qt::MouseButton button,
                                       QEvent::Type type, Qt::KeyboardModifiers modifiers,
@@ -23,16 +22,22 @@ inline void sendEvent(QWidget* widget, QEvent::Type type)
     QCoreApplication::sendEvent(widget, &event);
 }
 
-/// Puts a mouse event for a place on a widget into the window system's queue.
+/// Queues a mouse event for a place on a widget: it arrives, as from the window system, when the
+/// event loop or processEvents has its next turn.
 inline void postMouse(const QWidget* widget, const QPoint& place, QEvent::Type type)
 {
     static int timestamp = 0;
     timestamp += 1000; // far enough apart to be no double click
-    const bool isMove = type == QEvent::MouseMove;
-    qt_handleMouseEvent(widget->window()->windowHandle(), widget->mapTo(widget->window(), place),
-                        widget->mapToGlobal(place),
-                        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                        isMove ? Qt::NoButton : Qt::LeftButton, type, Qt::NoModifier, timestamp);
+    QWindow* const window = widget->window()->windowHandle();
+    const QPoint local = widget->mapTo(widget->window(), place);
+    const QPoint global = widget->mapToGlobal(place);
+    const Qt::MouseButtons state =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const auto deliver = [=, at = timestamp] {
+        qt_handleMouseEvent(window, local, global, state, button, type, Qt::NoModifier, at);
+    };
+    QMetaObject::invokeMethod(window, deliver, Qt::QueuedConnection);
 }
 
 inline void postClick(const QWidget* widget)
@@ -41,8 +46,12 @@ inline void postClick(const QWidget* widget)
     postMouse(widget, widget->rect().center(), QEvent::MouseButtonRelease);
 }
 
+/// Queues the press of a key.
 inline void postKey(const QWidget* widget, Qt::Key key)
 {
-    qt_handleKeyEvent(widget->window()->windowHandle(), QEvent::KeyPress, key, Qt::NoModifier,
-                      QString(), false, 1);
+    QWindow* const window = widget->window()->windowHandle();
+    const auto deliver = [window, key] {
+        qt_handleKeyEvent(window, QEvent::KeyPress, key, Qt::NoModifier, QString(), false, 1);
+    };
+    QMetaObject::invokeMethod(window, deliver, Qt::QueuedConnection);
 }

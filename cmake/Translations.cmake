@@ -1,5 +1,6 @@
-# Compiles translations/*.ts and makes a resource source of the results, with the toolkit's own
-# translations where this machine has them. Sets `output` to the source file.
+# Compiles translations/*.ts and makes a resource source of the results, with Qt's own translations.
+# A language whose texts this machine's Qt lacks takes them from translations/qt_<code>.ts, if there
+# is one. Sets `output` to the source file.
 # Resources: :/Translations/libs_<code>.qm, :/Translations/Tessarin_<code>.qm,
 # :/Translations/qt_<code>.qm.
 function(tessarin_translations output)
@@ -8,17 +9,19 @@ function(tessarin_translations output)
     set(entries "")
     set(sources "")
     foreach(code IN LISTS codes)
-        foreach(kind libs Tessarin)
+        set(kinds libs Tessarin)
+        # Qt's Portuguese is that of Brazil.
+        string(REGEX REPLACE "^pt$" "pt_BR" qtCode ${code})
+        set(qtFile ${TESSARIN_QT_TRANSLATIONS}/qtbase_${qtCode}.qm)
+        if(EXISTS ${qtFile})
+            string(APPEND entries "  <file alias=\"qt_${code}.qm\">${qtFile}</file>\n")
+        elseif(EXISTS ${folder}/qt_${code}.ts)
+            list(APPEND kinds qt)
+        endif()
+        foreach(kind IN LISTS kinds)
             list(APPEND sources ${folder}/${kind}_${code}.ts)
             string(APPEND entries "  <file alias=\"${kind}_${code}.qm\">${kind}_${code}.qm</file>\n")
         endforeach()
-
-        # The toolkit speaks Portuguese as it is spoken in Brazil.
-        string(REGEX REPLACE "^pt$" "pt_BR" toolkitCode ${code})
-        set(toolkitFile ${TESSARIN_TOOLKIT_TRANSLATIONS}/qtbase_${toolkitCode}.qm)
-        if(EXISTS ${toolkitFile})
-            string(APPEND entries "  <file alias=\"qt_${code}.qm\">${toolkitFile}</file>\n")
-        endif()
     endforeach()
 
     qt5_add_translation(compiled ${sources})
@@ -38,5 +41,5 @@ endfunction()
 get_target_property(TESSARIN_QMAKE Qt5::qmake IMPORTED_LOCATION)
 execute_process(
     COMMAND ${TESSARIN_QMAKE} -query QT_INSTALL_TRANSLATIONS
-    OUTPUT_VARIABLE TESSARIN_TOOLKIT_TRANSLATIONS
+    OUTPUT_VARIABLE TESSARIN_QT_TRANSLATIONS
     OUTPUT_STRIP_TRAILING_WHITESPACE)

@@ -12,7 +12,8 @@ if [ "${1:-}" = --check ]; then
     cp translations/*.ts "$target"
 fi
 
-for file in "$target"/*.ts; do
+# The texts of qt_*.ts stand in Qt's sources.
+for file in "$target"/{libs,Tessarin}_*.ts; do
     case "$file" in
     */libs_*) folders=(libs) ;;
     *) folders=(app batch flow intake preview) ;;

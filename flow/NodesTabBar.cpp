@@ -1,5 +1,7 @@
 #include "flow/NodesTabBar.h"
 
+#include <QMWidgets/FollowLanguage.h>
+
 #include <QKeyEvent>
 #include <QToolButton>
 
@@ -10,6 +12,14 @@ NodesTabBar::NodesTabBar(QWidget* parent)
     for (QToolButton* button : findChildren<QToolButton*>()) {
         button->setFocusPolicy(Qt::NoFocus);
     }
+    // Qt's names never change with the language, and "left" is wrong where reading goes left.
+    QMWidgets::followLanguage(this, [this] {
+        for (QToolButton* button : findChildren<QToolButton*>()) {
+            button->setAccessibleName(button->objectName() == QLatin1String("ScrollLeftButton")
+                                          ? tr("Earlier operations")
+                                          : tr("Later operations"));
+        }
+    });
 }
 
 void NodesTabBar::tabInserted(int index)

@@ -312,6 +312,21 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>إضافة عملية</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>اضغط زر + المستدير واختر خطوة.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>تسير الخطوات من اليمين إلى اليسار.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Overwrite?</source>
     <message>
         <source>Settings</source>
         <translation>الإعدادات</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>العمليات السابقة</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>العمليات التالية</translation>
     </message>
 </context>
 <context>

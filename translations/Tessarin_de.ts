@@ -312,6 +312,21 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>Schritt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>Rundes + drücken, Schritt wählen.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>Schritte laufen von links nach rechts.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Overwrite?</source>
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>Frühere Schritte</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>Spätere Schritte</translation>
     </message>
 </context>
 <context>

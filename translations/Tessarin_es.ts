@@ -312,6 +312,21 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>Añadir una operación</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>Pulse el + redondo y elija un paso.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>Los pasos van de izquierda a derecha.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Overwrite?</source>
     <message>
         <source>Settings</source>
         <translation>Ajustes</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>Operaciones anteriores</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>Operaciones siguientes</translation>
     </message>
 </context>
 <context>

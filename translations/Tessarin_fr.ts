@@ -312,6 +312,21 @@ La remplacer ?</translation>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>Ajouter une opération</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>Cliquez sur + et choisissez une étape.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>Les étapes vont de gauche à droite.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ La remplacer ?</translation>
     <message>
         <source>Settings</source>
         <translation>Réglages</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>Opérations précédentes</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>Opérations suivantes</translation>
     </message>
 </context>
 <context>

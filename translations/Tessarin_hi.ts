@@ -312,6 +312,21 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>ऑपरेशन जोड़ें</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>गोल + दबाएँ और कोई चरण चुनें।</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>चरण बाएँ से दाएँ चलते हैं।</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Overwrite?</source>
     <message>
         <source>Settings</source>
         <translation>सेटिंग</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>पिछले ऑपरेशन</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>अगले ऑपरेशन</translation>
     </message>
 </context>
 <context>

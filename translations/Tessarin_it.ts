@@ -312,6 +312,21 @@ Sovrascriverla?</translation>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>Aggiungi un’operazione</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>Premi il + rotondo e scegli un passo.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>I passi vanno da sinistra a destra.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Sovrascriverla?</translation>
     <message>
         <source>Settings</source>
         <translation>Impostazioni</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>Operazioni precedenti</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>Operazioni successive</translation>
     </message>
 </context>
 <context>

@@ -312,6 +312,21 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>작업 추가</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>둥근 + 버튼을 누르고 단계를 고르세요.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>단계는 왼쪽에서 오른쪽으로 실행됩니다.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Overwrite?</source>
     <message>
         <source>Settings</source>
         <translation>설정</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>이전 작업</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>다음 작업</translation>
     </message>
 </context>
 <context>

@@ -312,6 +312,21 @@ Substituir?</translation>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>Adicionar uma operação</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>Clique no + e escolha um passo.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>A ordem é da esquerda para a direita.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Substituir?</translation>
     <message>
         <source>Settings</source>
         <translation>Configurações</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>Operações anteriores</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>Operações seguintes</translation>
     </message>
 </context>
 <context>

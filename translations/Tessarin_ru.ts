@@ -312,6 +312,21 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>Добавить операцию</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>Нажмите круглый + и выберите шаг.</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>Шаги выполняются слева направо.</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Overwrite?</source>
     <message>
         <source>Settings</source>
         <translation>Настройки</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>Предыдущие операции</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>Следующие операции</translation>
     </message>
 </context>
 <context>

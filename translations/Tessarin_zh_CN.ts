@@ -312,6 +312,21 @@ Overwrite?</source>
     </message>
 </context>
 <context>
+    <name>InitLabel</name>
+    <message>
+        <source>Add an operation</source>
+        <translation>添加操作</translation>
+    </message>
+    <message>
+        <source>Press the round + and pick a step.</source>
+        <translation>按下圆形 + 按钮并选择一个步骤。</translation>
+    </message>
+    <message>
+        <source>Steps run from left to right.</source>
+        <translation>步骤从左到右依次执行。</translation>
+    </message>
+</context>
+<context>
     <name>MRRNode</name>
     <message>
         <source>Mirror horizontally</source>
@@ -327,6 +342,17 @@ Overwrite?</source>
     <message>
         <source>Settings</source>
         <translation>设置</translation>
+    </message>
+</context>
+<context>
+    <name>NodesTabBar</name>
+    <message>
+        <source>Earlier operations</source>
+        <translation>前面的操作</translation>
+    </message>
+    <message>
+        <source>Later operations</source>
+        <translation>后面的操作</translation>
     </message>
 </context>
 <context>

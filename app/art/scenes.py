@@ -1,6 +1,6 @@
 """The large pictures: what the drop window, the empty options panel and the panels stand on."""
 
-from canvas import ACCENT, COAL, DIM, INK, circle, group, landscape, line, path, rect, text, twins
+from canvas import ACCENT, COAL, DIM, INK, circle, group, landscape, line, path, rect, twins
 import nodes
 
 
@@ -59,11 +59,6 @@ class Reading:
         """Where a thing of that width, placed from the left, comes to stand."""
         return self.width - x - width if self.from_right else x
 
-    def text(self, x, y, size, content, **values):
-        if self.from_right:
-            values["direction"] = "rtl"
-        return text(self.place(x), y, size, content, **values)
-
     def turned(self, *parts):
         """Lines that tell a direction."""
         if not self.from_right:
@@ -71,45 +66,22 @@ class Reading:
         return group(*parts, transform=f"translate({self.width} 0) scale(-1 1)")
 
 
-def first_steps(reading, title, lines, captions):
-    """The options panel while no operation exists; the lower corner where reading starts is kept
-    free for the moving arrow that points at the add button."""
-    parts = [
-        reading.turned(line("M124 62C94 62 70 68 56 89", ACCENT, 3, stroke_dasharray="1 8")),
-        reading.text(136, 72, 28, title, font_weight="bold"),
-    ]
-    for y, content in zip((106, 128), lines):
-        parts.append(reading.text(137, y, 15, content, fill="#dedede"))
-    x = 452
-    for draw, caption in zip((nodes.crop, nodes.rotate, nodes.watermark), captions):
-        if x > 452:
-            arrow = line(f"M{x - 14} 82H{x - 6}M{x - 9} 78L{x - 5} 82L{x - 9} 86", DIM, 2)
+def first_steps(reading):
+    """The options panel while no operation exists. Two places are kept free: the lower corner where
+    reading starts for the moving arrow that points at the add button, and the middle, from 136 to
+    444, for the words, which the program lays over it in the user's language."""
+    parts = [reading.turned(line("M124 62C94 62 70 68 56 89", ACCENT, 3, stroke_dasharray="1 8"))]
+    x = 460
+    for draw in (nodes.crop, nodes.rotate, nodes.watermark):
+        if x > 460:
+            arrow = line(f"M{x - 14} 87H{x - 5}M{x - 9} 83L{x - 5} 87L{x - 9} 91", DIM, 2)
             parts.append(reading.turned(arrow))
         left = reading.place(x, 72)
-        parts.append(rect(left, 46, 72, 72, 10, fill="url(#night)", stroke="#7a7a7a",
+        parts.append(rect(left, 51, 72, 72, 10, fill="url(#night)", stroke="#7a7a7a",
                           stroke_width=1.5))
-        parts.append(small_node(draw, left + 12, 58, 48))
-        parts.append(reading.text(x + 36, 142, 12, caption, fill="#dedede", text_anchor="middle"))
-        x += 92
+        parts.append(small_node(draw, left + 10, 61, 52))
+        x += 91
     return "".join(parts)
-
-
-def first_steps_in_english():
-    return first_steps(
-        Reading(735, from_right=False),
-        "Add an operation",
-        ("Press the round + and pick a step.", "Steps run from left to right."),
-        ("crop", "rotate", "watermark"),
-    )
-
-
-def first_steps_in_arabic():
-    return first_steps(
-        Reading(735, from_right=True),
-        "أضف عملية",
-        ("اضغط زر + المستدير واختر خطوة.", "تسير الخطوات من اليمين إلى اليسار."),
-        ("قص", "تدوير", "علامة مائية"),
-    )
 
 
 def menu_bar():
@@ -153,8 +125,8 @@ def open_files():
 
 def pictures():
     yield "droparea", 360, 360, drop_area()
-    yield "initlabel_en", 735, 175, first_steps_in_english()
-    yield "initlabel_ar", 735, 175, first_steps_in_arabic()
+    yield "initlabel_en", 735, 175, first_steps(Reading(735, from_right=False))
+    yield "initlabel_ar", 735, 175, first_steps(Reading(735, from_right=True))
     yield "openfiles", 24, 24, open_files()
     yield "backgroundbar", 735, 45, menu_bar()
     yield from twins("panelbackground", 8, 8, panel_tile())

@@ -1,5 +1,6 @@
 #include "app/HelpSlides.h"
 #include "app/MainPage.h"
+#include "flow/NodesTabBar.h"
 #include "support/TestMain.h"
 #include <QMWidgets/App.h>
 #include <QMWidgets/TranslationsManager.h>
@@ -9,6 +10,7 @@
 #include <QImage>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QToolButton>
 
 using QMWidgets::App;
 using QMWidgets::TranslationsManager;
@@ -170,6 +172,14 @@ private slots:
         QCoreApplication::processEvents();
         QCOMPARE(button->toolTip(), QCoreApplication::translate("FlowPanel", "Add node"));
         QVERIFY(button->toolTip() != QLatin1String("Add node"));
+        // For readers of the screen: the tab bar's own buttons.
+        QStringList names;
+        for (const QToolButton* scroll :
+             page.findChild<NodesTabBar*>()->findChildren<QToolButton*>()) {
+            names += scroll->accessibleName();
+        }
+        QCOMPARE(names, QStringList({QStringLiteral("Frühere Schritte"),
+                                     QStringLiteral("Spätere Schritte")}));
         TranslationsManager::instance()->setLanguage(QStringLiteral("en"));
         QCoreApplication::processEvents();
         QCOMPARE(button->toolTip(), QStringLiteral("Add node"));

@@ -27,6 +27,14 @@ QString textOf(const QWidget* widget)
     return label ? label->text() : QString();
 }
 
+QSize roomAskedBy(const QWidget* widget)
+{
+    const auto* const label = qobject_cast<const QLabel*>(widget);
+    return label && label->wordWrap()
+               ? QSize(label->minimumSizeHint().width(), label->heightForWidth(label->width()))
+               : widget->sizeHint();
+}
+
 /// The texts of a window, as it is now, that have less room than they ask for.
 QStringList cutTexts(const QWidget* window)
 {
@@ -36,7 +44,7 @@ QStringList cutTexts(const QWidget* window)
         if (text.isEmpty() || !widget->isVisible() || widget->window() != window) {
             continue;
         }
-        const QSize asked = widget->sizeHint();
+        const QSize asked = roomAskedBy(widget);
         // What a button is drawn with and what it asks for may differ by its border.
         if (asked.width() > widget->width() + 1 || asked.height() > widget->height() + 1) {
             cut += QStringLiteral("%1 asks for %2x%3, has %4x%5")
@@ -122,7 +130,13 @@ private slots:
     void textsFitAndMnemonicsAreUnique()
     {
         QFETCH(QString, code);
+        MainPage empty(nullptr); // stands before the language is known
+        empty.show();
         TranslationsManager::instance()->setLanguage(code);
+        const auto* const title = empty.findChild<QLabel*>(QStringLiteral("InitTitle"));
+        QTRY_VERIFY(
+            title->text().contains(QCoreApplication::translate("InitLabel", "Add an operation")));
+        QTRY_COMPARE(cutTexts(&empty).join(QLatin1Char('\n')), QString());
         AllWindows windows;
         QStringList wrong;
         int count = 0;

@@ -4,7 +4,25 @@
 #include "support/TestMain.h"
 
 #include <limits>
+#include <MGraphX/GradientRings.h>
+#include <MGraphX/GradientRows.h>
+#include <MGraphX/kernels/StraightOverKernel.h>
+#include <MGraphX/StraightOver.h>
 #include <MGraphX/Vignette.h>
+
+namespace
+{
+
+bool painterHasAvx2()
+{
+#if defined(__GNUC__) && defined(__x86_64__)
+    return __builtin_cpu_supports("avx2") != 0;
+#else
+    return false;
+#endif
+}
+
+} // namespace
 
 /// What large photos get row by row, and small ones by paintings, against the paintings.
 class TestVignette : public QObject
@@ -35,23 +53,81 @@ private slots:
         }
     }
 
+    void theLastColumnsAreConvertedOneByOne()
+    {
+        // Shows in words of the least alpha, on photos that are clear.
+        compare({807, 640}, 95, 3, RandomAlpha::Transparent, QColor(128, 180, 10));
+    }
+
+    void ringsAreAsPainted()
+    {
+        const MGraphX::VignetteLook look{777, 100, QColor(10, 120, 200)};
+        constexpr int kSide = 2304;
+        const std::vector<int> columns{0, 1, 5, 300, 301, 900, 1151, 1152, 2047, 2048, 2100, 2303};
+        MGraphX::GradientRings rings(kSide, look.radius,
+                                     gradientSteps(QImage::Format_ARGB32, look));
+        rings.setColumns(columns);
+        std::vector<uint32_t> row(columns.size() + MGraphX::GradientRings::kSlack);
+        for (int y = 0; y < kSide; y += 31) {
+            const QImage painted =
+                gradientPart(kSide, QRect(0, y, kSide, 1), QImage::Format_ARGB32, look);
+            QVERIFY(rings.fill(y, row.data()));
+            for (size_t i = 0; i < columns.size(); ++i) {
+                QCOMPARE(row[i],
+                         reinterpret_cast<const uint32_t*>(painted.constBits())[columns[i]]);
+            }
+        }
+    }
+
+    void opaqueWordsGetWhatThePainterLaysOverThem()
+    {
+        constexpr int kBytes = 256;
+        if (!painterHasAvx2()) {
+            QSKIP("the painter computes otherwise on this processor");
+        }
+        QImage over(kBytes, kBytes, QImage::Format_ARGB32);
+        QImage under(kBytes, kBytes, QImage::Format_ARGB32);
+        for (int alpha = 0; alpha < kBytes; ++alpha) {
+            for (int y = 0; y < kBytes; ++y) {
+                for (int x = 0; x < kBytes; ++x) {
+                    over.setPixel(x, y, qRgba(y, 255 - y, y, alpha));
+                    under.setPixel(x, y, qRgb(x, x, 255 - x));
+                }
+            }
+            QImage painted = under;
+            MGraphX::paintOver(over, painted, 0);
+            QImage laid(under.size(), under.format());
+            for (int y = 0; y < kBytes; ++y) {
+                const auto words = [y](QImage& image) {
+                    return reinterpret_cast<uint32_t*>(image.scanLine(y));
+                };
+                MGraphX::kernels::straightOverRow(words(over), words(under), words(laid), kBytes);
+            }
+            COMPARE_IMAGES(laid, painted);
+        }
+    }
+
 private:
     static void compare(const QSize& size, int radius, int opacity)
     {
+        compare(size, radius, opacity, RandomAlpha::Opaque, QColor());
+        compare(size, radius, opacity, RandomAlpha::Any, QColor(250, 128, 0, 7));
+    }
+
+    static void compare(const QSize& size, int radius, int opacity, RandomAlpha alpha,
+                        const QColor& color)
+    {
         for (const auto format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
-            for (const auto alpha : {RandomAlpha::Opaque, RandomAlpha::Any}) {
-                const QImage image = randomImage(size, format, alpha, 5);
-                const QColor color = alpha == RandomAlpha::Any ? QColor(250, 128, 0, 7) : QColor();
-                const QString difference =
-                    imageDifference(MGraphX::vignetteImage(image, radius, opacity, color),
-                                    reference::vignette(image, radius, opacity, color));
-                const QString what = QStringLiteral("%1 x %2, %3, %4: ")
-                                         .arg(size.width())
-                                         .arg(size.height())
-                                         .arg(radius)
-                                         .arg(opacity);
-                QVERIFY2(difference.isEmpty(), qPrintable(what + difference));
-            }
+            const QImage image = randomImage(size, format, alpha, 5);
+            const QString difference =
+                imageDifference(MGraphX::vignetteImage(image, radius, opacity, color),
+                                reference::vignette(image, radius, opacity, color));
+            const QString what = QStringLiteral("%1 x %2, %3, %4: ")
+                                     .arg(size.width())
+                                     .arg(size.height())
+                                     .arg(radius)
+                                     .arg(opacity);
+            QVERIFY2(difference.isEmpty(), qPrintable(what + difference));
         }
     }
 };

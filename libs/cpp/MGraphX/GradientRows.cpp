@@ -14,42 +14,62 @@ namespace
 /// The painter computes a gradient by increments from where a span starts, and cuts rows into spans
 /// of this length. A row may be painted in parts if they start where its spans do.
 constexpr int kSpan = 2048;
+/// It looks up the colour of a pixel in a table of so many.
+constexpr int kSteps = 1024;
 
 const QColor kClear(255, 255, 255, 0);
 
-QRadialGradient gradientOf(int side, const VignetteLook& look)
+QRadialGradient gradientOf(const QPointF& centre, double radius, const VignetteLook& look)
 {
     const QColor& color = look.color;
     const auto lighter = [&color](int by) {
         return QColor(std::min(color.red() + by, 255), std::min(color.green() + by, 255),
                       std::min(color.blue() + by, 255), 0);
     };
-    const QPointF centre(side / 2, side / 2);
-    QRadialGradient gradient(centre, look.radius, centre);
+    QRadialGradient gradient(centre, radius, centre);
     gradient.setColorAt(0.0, lighter(200));
     gradient.setColorAt(0.5, lighter(40));
     gradient.setColorAt(1.0, QColor(color.red(), color.green(), color.blue(), 255));
     return gradient;
 }
 
-void takeUp(QPainter& painter, int side, const VignetteLook& look)
+void takeUp(QPainter& painter, const QRadialGradient& gradient, const VignetteLook& look)
 {
     painter.setOpacity(look.opacity / 100.0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(gradientOf(side, look));
+    painter.setBrush(gradient);
+}
+
+QRadialGradient squareGradient(int side, const VignetteLook& look)
+{
+    return gradientOf(QPointF(side / 2, side / 2), look.radius, look);
 }
 
 } // namespace
 
-QImage gradientSquare(int side, QImage::Format format, const VignetteLook& look)
+QImage gradientPart(int side, const QRect& part, QImage::Format format, const VignetteLook& look)
 {
-    QImage square(side, side, format);
-    square.fill(kClear);
-    QPainter painter(&square);
-    takeUp(painter, side, look);
-    const QRect whole = square.rect();
+    QImage image(part.size(), format);
+    image.fill(kClear);
+    QPainter painter(&image);
+    takeUp(painter, squareGradient(side, look), look);
+    painter.translate(-part.topLeft());
+    painter.drawRects(&part, 1);
+    return image;
+}
+
+std::vector<uint32_t> gradientSteps(QImage::Format format, const VignetteLook& look)
+{
+    QImage steps(kSteps, 1, format);
+    steps.fill(kClear);
+    QPainter painter(&steps);
+    // The centre of each pixel is as many steps from the gradient's as its number.
+    takeUp(painter, gradientOf(QPointF(0.5, 0.5), kSteps - 1, look), look);
+    const QRect whole = steps.rect();
     painter.drawRects(&whole, 1);
-    return square;
+    painter.end();
+    const auto* words = reinterpret_cast<const uint32_t*>(steps.constBits());
+    return {words, words + kSteps};
 }
 
 GradientRows::GradientRows(int side, QImage::Format format, const VignetteLook& look)
@@ -60,7 +80,7 @@ GradientRows::GradientRows(int side, QImage::Format format, const VignetteLook& 
       m_strip(side, 1, format),
       m_painter(&m_strip)
 {
-    takeUp(m_painter, side, look);
+    takeUp(m_painter, squareGradient(side, look), look);
     // The painter knows a row by the square of its distance alone, and its spans are all of one
     // length. Should either be otherwise, a row shows it.
     const int upper = side / 4;

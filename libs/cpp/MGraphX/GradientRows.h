@@ -16,11 +16,15 @@ struct VignetteLook {
     QColor color;
 };
 
-/// The vignette's square, painted as a whole.
-QImage gradientSquare(int side, QImage::Format format, const VignetteLook& look);
+/// The part `part` of the vignette's square, which has `side` rows and columns.
+QImage gradientPart(int side, const QRect& part, QImage::Format format, const VignetteLook& look);
+
+/// The words of the steps in which the painter paints the vignette's gradient, from the centre to
+/// the radius.
+std::vector<uint32_t> gradientSteps(QImage::Format format, const VignetteLook& look);
 
 /// The vignette's square, painted one row at a time into a strip that stays in the cache. The words
-/// are those of gradientSquare.
+/// are those of gradientPart.
 class GradientRows
 {
 public:

@@ -62,6 +62,13 @@ MGRAPHX_INLINE uint32_t nearest(float value)
     return bits & 0xffu;
 }
 
+/// The nearest whole number to value / 257, for 16 bits.
+MGRAPHX_INLINE uint32_t narrow(uint32_t value)
+{
+    const uint32_t rounded = value + 128;
+    return (rounded - (rounded >> 8)) >> 8;
+}
+
 /// For each word all bits of 16 if its whole group is opaque, else none.
 MGRAPHX_INLINE void findOpaque(const uint32_t* words, int count, uint32_t* full)
 {
@@ -76,25 +83,51 @@ MGRAPHX_INLINE void findOpaque(const uint32_t* words, int count, uint32_t* full)
     }
 }
 
-/// Whether `over` is clear and all words of `under` come back from their way as they went. All do
-/// but those of the least alpha, and what is as clear loses its colour.
+/// What a piece consists of.
+struct Piece {
+    bool overIsClear;
+    bool underIsOpaque;
+    bool underHasLeastAlpha; ///< such words do not come back from their way as they went
+};
+
 MGRAPHX_MULTIVERSION
-bool changesNothing(const uint32_t* over, const uint32_t* under, int count)
+Piece lookAt(const uint32_t* over, const uint32_t* under, int count)
 {
-    uint32_t alphas = 0;
+    uint32_t any = 0;
+    uint32_t common = 0xffffffffu;
     uint32_t least = 0;
     for (int i = 0; i < count; ++i) {
-        alphas |= over[i];
+        any |= over[i];
+        common &= under[i];
         least |= under[i] >> 24 == 1 ? 1u : 0u;
     }
-    return alphas >> 24 == 0 && least == 0;
+    return {any >> 24 == 0, common >> 24 == 0xff, least != 0};
 }
 
+/// Keeps the words, but what is clear loses its colour.
 MGRAPHX_MULTIVERSION
 void keepVisible(const uint32_t* under, uint32_t* target, int count)
 {
     for (int i = 0; i < count; ++i) {
         target[i] = under[i] >> 24 == 0 ? 0 : under[i];
+    }
+}
+
+// All groups below are opaque, and so are the results: the way back is a division by 257. Whether a
+// group above is opaque changes its premultiplied colours by less than that division rounds.
+MGRAPHX_MULTIVERSION
+void overOpaque(const uint32_t* over, const uint32_t* under, uint32_t* target, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const uint32_t alpha = over[i] >> 24;
+        const uint32_t through = kFull - alpha * 257;
+        uint32_t word = 0xff000000u;
+        for (int shift = 0; shift < 24; shift += 8) {
+            const uint32_t o = (over[i] >> shift) & 0xffu;
+            const uint32_t u = (under[i] >> shift) & 0xffu;
+            word |= narrow(wide(o, o * alpha, 0) + part(u * 257, through)) << shift;
+        }
+        target[i] = word;
     }
 }
 
@@ -129,8 +162,7 @@ void straightOver(const uint32_t* over, const uint32_t* under, uint32_t* target,
                                   overOuter >> 16};
         const uint32_t unders[] = {underOuter & 0xffffu, ((u >> 8) & 0xffu) * (u >> 24),
                                    underOuter >> 16};
-        const uint32_t rounded = alphas[i] + 128;
-        uint32_t word = ((rounded - (rounded >> 8)) & 0xff00u) << 16;
+        uint32_t word = narrow(alphas[i]) << 24;
         for (int k = 0; k < 3; ++k) {
             const uint32_t colour =
                 wide((o >> (8 * k)) & 0xffu, overs[k], overFull[i]) +
@@ -151,8 +183,11 @@ void straightOverRow(const uint32_t* over, const uint32_t* under, uint32_t* targ
     static const std::vector<float> factors = factorsBack();
     for (int i = 0; i < count; i += kPiece) {
         const int piece = std::min(kPiece, count - i);
-        if (changesNothing(over + i, under + i, piece)) {
+        const Piece kind = lookAt(over + i, under + i, piece);
+        if (kind.overIsClear && !kind.underHasLeastAlpha) {
             keepVisible(under + i, target + i, piece);
+        } else if (kind.underIsOpaque) {
+            overOpaque(over + i, under + i, target + i, piece);
         } else {
             straightOver(over + i, under + i, target + i, piece, factors.data());
         }

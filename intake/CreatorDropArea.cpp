@@ -6,6 +6,7 @@
 #include <QMWidgets/FileDialog.h>
 #include <QMWidgets/FocusRing.h>
 #include <QMWidgets/FollowLanguage.h>
+#include <QMWidgets/RepeatGate.h>
 #include <QMWidgets/StepButtons.h>
 
 #include <QDropEvent>
@@ -24,7 +25,8 @@ CreatorDropArea::CreatorDropArea(NodesOptionsPanel* panel, QWidget* parent)
       m_previousButton(QMWidgets::makePreviousButton(this)),
       m_counterLabel(new QLabel(this)),
       m_openButton(new QPushButton(QIcon(QStringLiteral(":/openfiles.png")), QString(), this)),
-      m_dropVeil(new QMWidgets::DropVeil(this))
+      m_dropVeil(new QMWidgets::DropVeil(this)),
+      m_repeatGate(new QMWidgets::RepeatGate(this))
 {
     setFixedSize(360, 360);
     setAcceptDrops(true);
@@ -201,6 +203,11 @@ void CreatorDropArea::dropEvent(QDropEvent* event)
 }
 
 void CreatorDropArea::keyPressEvent(QKeyEvent* event)
+{
+    m_repeatGate->pass(event, [this, event] { handleKey(event); });
+}
+
+void CreatorDropArea::handleKey(QKeyEvent* event)
 {
     // The buttons change sides where one reads from the right.
     const Qt::Key forward = isRightToLeft() ? Qt::Key_Left : Qt::Key_Right;

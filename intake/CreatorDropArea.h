@@ -12,7 +12,8 @@ class QPushButton;
 namespace QMWidgets
 {
 class DropVeil;
-}
+class RepeatGate;
+} // namespace QMWidgets
 
 /// The square of the source panel: takes photos by drop or file dialog, shows the current one and
 /// steps through them. It owns the list of photos and the current index; the shared data and the
@@ -56,6 +57,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void handleKey(QKeyEvent* event);
     void stepTo(int index);
     void goTo(int index);
     void loadPixmap();
@@ -71,4 +73,5 @@ private:
     QLabel* m_counterLabel;
     QPushButton* m_openButton;
     QMWidgets::DropVeil* m_dropVeil;
+    QMWidgets::RepeatGate* m_repeatGate;
 };

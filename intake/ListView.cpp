@@ -1,10 +1,18 @@
 #include "intake/ListView.h"
 
+#include <QMWidgets/RepeatGate.h>
+
 #include <QPersistentModelIndex>
 
 ListView::ListView(QWidget* parent)
-    : QListView(parent)
+    : QListView(parent),
+      m_repeatGate(new QMWidgets::RepeatGate(this))
 {
+}
+
+void ListView::keyPressEvent(QKeyEvent* event)
+{
+    m_repeatGate->pass(event, [this, event] { QListView::keyPressEvent(event); });
 }
 
 void ListView::currentChanged(const QModelIndex& current, const QModelIndex& previous)

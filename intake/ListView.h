@@ -2,6 +2,11 @@
 
 #include <QListView>
 
+namespace QMWidgets
+{
+class RepeatGate;
+}
+
 /// A list view that tells of each change of its current row by a signal. The current row, and no
 /// other, is the selected one, also while handlers of that signal move it on.
 class ListView : public QListView
@@ -15,7 +20,11 @@ signals:
     void currentItemChanged(const QModelIndex& current, const QModelIndex& previous);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
+
+private:
+    QMWidgets::RepeatGate* m_repeatGate;
 };

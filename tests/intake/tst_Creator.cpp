@@ -1,4 +1,5 @@
 #include "flow/NodesOptionsPanel.h"
+#include "intake/CommonData.h"
 #include "intake/Creator.h"
 #include "intake/CreatorDropArea.h"
 #include "intake/ListView.h"
@@ -94,6 +95,33 @@ private slots:
             QCOMPARE(view->currentIndex().row(), 2);
             QCOMPARE(view->selectionModel()->selectedIndexes(), {view->currentIndex()});
         }
+    }
+
+    void aHeldKeyStepsOnceTheFormerStepIsShown()
+    {
+        SourcePanel panel;
+        const auto send = [](QWidget* widget, QEvent::Type type, Qt::Key key, bool isRepeat) {
+            QKeyEvent event(type, key, Qt::NoModifier, QString(), isRepeat);
+            event.setTimestamp(7);
+            QCoreApplication::sendEvent(widget, &event);
+        };
+        const auto hold = [&](QWidget* widget, Qt::Key key) {
+            QTimer::singleShot(0, widget, [=] { send(widget, QEvent::KeyPress, key, true); });
+            QTest::keyClick(widget, key);
+            send(widget, QEvent::KeyPress, key, true);
+            // At one and the same time: no finger does that.
+            send(widget, QEvent::KeyRelease, key, false);
+            send(widget, QEvent::KeyPress, key, false);
+            QCOMPARE(CommonData::instance()->currentIndex(), 1);
+            QVERIFY(QTest::qWaitFor([&] {
+                send(widget, QEvent::KeyPress, key, true);
+                return CommonData::instance()->currentIndex() == 2;
+            }));
+        };
+        hold(panel.creator.findChild<CreatorDropArea*>(), Qt::Key_Right);
+        panel.showStrip();
+        panel.creator.slotGotoFirst();
+        hold(panel.view(), Qt::Key_Down);
     }
 
     void newPhotosMayComeInTheRunOfTheStrip()

@@ -321,13 +321,13 @@ private slots:
             auto mainWindow = std::make_unique<QWidget>();
             app->setMainWidget(mainWindow.get());
             const bool isBusy = row.check == &App::slotCheckUpdate && row.answer.isEmpty();
+            Qt::CursorShape shape = Qt::BlankCursor;
             bool hasDialog = false;
             QTimer watch;
             connect(&watch, &QTimer::timeout, app, [&] {
                 hasDialog = hasDialog || QApplication::activeModalWidget();
                 if (hasDialog || (row.answer.isEmpty() && !server.requests().isEmpty())) {
-                    const Qt::CursorShape shape = mainWindow->cursor().shape();
-                    QCOMPARE(shape, isBusy ? Qt::BusyCursor : Qt::ArrowCursor);
+                    shape = mainWindow->cursor().shape();
                     app->quit();
                 }
             });
@@ -338,6 +338,7 @@ private slots:
             // Nothing is begun after the end: no second request, no message.
             QVERIFY2(server.requests().count() == 1, row.name);
             QVERIFY2(mainWindow->findChildren<QDialog*>().count() == row.boxes, row.name);
+            QCOMPARE(shape, isBusy ? Qt::BusyCursor : Qt::ArrowCursor);
             QCOMPARE(mainWindow->cursor().shape(), Qt::ArrowCursor);
             mainWindow.reset();
             QVERIFY2(!QApplication::activeModalWidget() && !check().isRunning(), row.name);

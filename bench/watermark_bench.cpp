@@ -38,6 +38,7 @@ int main(int argc, char** argv)
     benchMark("text_20", markOf(WMRParams::kTextMode, 20), QImage::Format_RGB32);
     benchMark("text_100", markOf(WMRParams::kTextMode, 100), QImage::Format_RGB32);
     benchMark("logo", markOf(WMRParams::kImageMode, 60), QImage::Format_RGB32);
+    benchMark("logo_argb", markOf(WMRParams::kImageMode, 60), QImage::Format_ARGB32);
     WMRParams high = markOf(WMRParams::kImageMode, 100);
     high.image = QImage(60, 240, QImage::Format_ARGB32);
     high.image.fill(qRgba(200, 120, 40, 160));

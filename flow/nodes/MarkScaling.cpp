@@ -1,6 +1,6 @@
 #include "flow/nodes/MarkScaling.h"
 
-#include <vector>
+#include <MGraphX/kernels/MixKernel.h>
 
 namespace
 {
@@ -31,23 +31,14 @@ Place placeOf(int pixel, int source, int target)
     return {index, quint32(position >> 8) & 0xff};
 }
 
-/// The mixture of two pixels, each channel cut. Two channels go in one word.
-QRgb mixed(QRgb from, QRgb to, quint32 weight)
+const uint32_t* rowOf(const QImage& image, int y)
 {
-    constexpr quint32 kPair = 0x00ff00ff;
-    const quint32 low = (from & kPair) * (256 - weight) + (to & kPair) * weight;
-    const quint32 high = ((from >> 8) & kPair) * (256 - weight) + ((to >> 8) & kPair) * weight;
-    return ((low >> 8) & kPair) | (high & ~kPair);
-}
-
-const QRgb* rowOf(const QImage& image, int y)
-{
-    return reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    return reinterpret_cast<const uint32_t*>(image.constScanLine(y));
 }
 
 } // namespace
 
-bool canScalePart(const QImage& mark, const QSize& size)
+bool MarkScaler::canScale(const QImage& mark, const QSize& size)
 {
     switch (mark.format()) {
     case QImage::Format_Mono:
@@ -62,40 +53,41 @@ bool canScalePart(const QImage& mark, const QSize& size)
     default:
         return false;
     }
-    return qMax(mark.width(), mark.height()) < kSideLimit && mark.width() <= size.width() &&
-           mark.height() <= size.height();
+    // A mark that has the size is taken as it is, and not premultiplied.
+    return mark.size() != size && qMax(mark.width(), mark.height()) < kSideLimit &&
+           mark.width() <= size.width() && mark.height() <= size.height();
 }
 
-QImage scaledPart(const QImage& mark, const QSize& size, const QRect& part)
+MarkScaler::MarkScaler(const QImage& mark, const QSize& size, const QRect& part)
+    : m_source(mark.convertToFormat(mark.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                           : QImage::Format_RGB32)),
+      m_size(size),
+      m_part(part),
+      // The last column's neighbour is one further, with no weight.
+      m_between(size_t(mark.width()) + 1)
 {
-    if (!canScalePart(mark, size)) {
-        return QImage();
-    }
-    const QImage source = mark.convertToFormat(
-        mark.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    QImage result(part.size(), source.format());
-    if (source.isNull() || result.isNull()) {
-        return QImage();
-    }
-    std::vector<Place> columns;
     for (int x = part.left(); x <= part.right(); ++x) {
-        columns.push_back(placeOf(x, source.width(), size.width()));
+        const Place place = placeOf(x, mark.width(), size.width());
+        m_places.push_back(place.index);
+        m_weights.push_back(place.weight);
     }
-    // The columns' last neighbour is one further, with no weight.
-    std::vector<QRgb> between(size_t(source.width()) + 1);
-    for (int y = 0; y < part.height(); ++y) {
-        const Place row = placeOf(part.top() + y, source.height(), size.height());
-        const QRgb* upper = rowOf(source, row.index);
-        const QRgb* lower = rowOf(source, qMin(row.index + 1, source.height() - 1));
+}
+
+QImage MarkScaler::rows(int first, int count)
+{
+    QImage result(m_part.width(), count, m_source.format());
+    if (m_source.isNull() || result.isNull()) {
+        return QImage();
+    }
+    for (int y = 0; y < count; ++y) {
+        const Place row = placeOf(m_part.top() + first + y, m_source.height(), m_size.height());
+        const uint32_t* upper = rowOf(m_source, row.index);
+        const uint32_t* lower = rowOf(m_source, qMin(row.index + 1, m_source.height() - 1));
         // Downwards first, as each mixture is cut to whole numbers.
-        for (int x = 0; x < source.width(); ++x) {
-            between[size_t(x)] = mixed(upper[x], lower[x], row.weight);
-        }
-        auto* target = reinterpret_cast<QRgb*>(result.scanLine(y));
-        for (const Place& place : columns) {
-            const QRgb* pair = &between[size_t(place.index)];
-            *target++ = mixed(pair[0], pair[1], place.weight);
-        }
+        MGraphX::kernels::mixRow(upper, lower, row.weight, m_between.data(), m_source.width());
+        auto* target = reinterpret_cast<uint32_t*>(result.scanLine(y));
+        MGraphX::kernels::mixNeighbours(m_between.data(), m_places.data(), m_weights.data(), target,
+                                        m_part.width());
     }
     return result;
 }

@@ -124,15 +124,6 @@ bool canBeAllocated(const QSize& size)
            qint64(size.width()) * size.height() <= kMostPixels;
 }
 
-/// Whether the mark would take more memory than the photo, most of it for what doesn't show.
-bool isOutsized(const QSize& mark, const QSize& photo, const QImage& image)
-{
-    const auto pixels = [](const QSize& size) {
-        return qint64(size.width()) * size.height();
-    };
-    return pixels(mark) > pixels(photo) && canScalePart(image, mark);
-}
-
 /// The part of a mark's `box` to draw so that what shows of it on the photo is as in the whole box.
 /// The painter rounds an image of one pixel in another way than larger ones: such a part gets a
 /// neighbour, which a box has as it is at least as wide as both margins.
@@ -146,16 +137,15 @@ QRect partToDraw(const QRect& box, const QRect& photo)
     return visible.adjusted(hasNext ? 0 : -1, 0, hasNext ? 1 : 0, 0);
 }
 
-/// The part `drawn` of the mark that fills `box`. Errors: a null image if it is too large.
-QImage scaledMark(const QImage& mark, const QRect& box, const QRect& drawn)
+/// Draws the part `part` of `box`, which the mark is scaled up to fill.
+void drawScaledUp(QPainter& painter, const QImage& mark, const QRect& box, const QRect& part)
 {
-    if (drawn != box) {
-        return scaledPart(mark, box.size(), drawn.translated(-box.topLeft()));
+    constexpr int kBand = 16; // rows that stay in the cache
+    MarkScaler scaler(mark, box.size(), part.translated(-box.topLeft()));
+    for (int y = 0; y < part.height(); y += kBand) {
+        const QImage band = scaler.rows(y, qMin(kBand, part.height() - y));
+        painter.drawImage(part.topLeft() + QPoint(0, y), band);
     }
-    if (!canBeAllocated(box.size())) {
-        return QImage();
-    }
-    return mark.scaled(box.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 QImage drawImage(QImage photo, const WMRParams& params)
@@ -170,17 +160,21 @@ QImage drawImage(QImage photo, const WMRParams& params)
     }
     const QSize size = sizeInPhoto(params.image.size(), photo.width(), params.size);
     const QRect box = markBox(photo.size(), size, params);
-    if (!box.intersects(photo.rect())) {
+    const QRect part = partToDraw(box, photo.rect());
+    if (part.isEmpty()) {
         return photo;
     }
-    const QRect drawn =
-        isOutsized(box.size(), photo.size(), params.image) ? partToDraw(box, photo.rect()) : box;
-    const QImage mark = scaledMark(params.image, box, drawn);
-    if (mark.isNull()) {
+    if (MarkScaler::canScale(params.image, box.size())) {
+        return painted(std::move(photo), params.transparency,
+                       [&](QPainter& painter) { drawScaledUp(painter, params.image, box, part); });
+    }
+    if (!canBeAllocated(box.size())) {
         return photo;
     }
+    const QImage mark =
+        params.image.scaled(box.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return painted(std::move(photo), params.transparency,
-                   [&](QPainter& painter) { painter.drawImage(drawn, mark); });
+                   [&](QPainter& painter) { painter.drawImage(box, mark); });
 }
 
 } // namespace

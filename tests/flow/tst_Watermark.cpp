@@ -216,7 +216,7 @@ private slots:
                         mark.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
                     const QRect rect(QPoint(0, 0), size);
                     for (const QRect& part : {rect, rect.adjusted(13, 17, -11, -9)}) {
-                        COMPARE_IMAGES(scaledPart(mark, size, part),
+                        COMPARE_IMAGES(MarkScaler(mark, size, part).rows(0, part.height()),
                                        whole.copy(part).convertToFormat(
                                            mark.hasAlphaChannel()
                                                ? QImage::Format_ARGB32_Premultiplied
@@ -226,9 +226,9 @@ private slots:
             }
         }
         const QImage mark = noise(QSize(9, 9), 1);
-        QVERIFY(!canScalePart(mark, QSize(8, 900)));
-        QVERIFY(!canScalePart(mark, QSize(900, 8)));
-        QVERIFY(!canScalePart(mark.convertToFormat(QImage::Format_RGBA64), QSize(99, 99)));
+        QVERIFY(!MarkScaler::canScale(mark, QSize(8, 900)));
+        QVERIFY(!MarkScaler::canScale(mark, QSize(900, 8)));
+        QVERIFY(!MarkScaler::canScale(mark.convertToFormat(QImage::Format_RGBA64), QSize(99, 99)));
     }
 
     void aMarkIsThatOfThePlainSteps()
@@ -256,8 +256,9 @@ private slots:
                 COMPARE_IMAGES(WMRNode::drawWatermark(photo, params),
                                reference::watermark(photo, params));
                 params.mode = WMRParams::kImageMode;
-                // Wide, high beyond the photo, and scaled down.
-                for (const QSize& size : {QSize(20, 5), QSize(6, 150), QSize(500, 900)}) {
+                // Wide, high beyond the photo, scaled down, and of its own size.
+                for (const QSize& size :
+                     {QSize(20, 5), QSize(6, 150), QSize(500, 900), QSize(204, 204)}) {
                     params.image = noise(size, 5);
                     params.expand = position == 8;
                     COMPARE_IMAGES(WMRNode::drawWatermark(photo, params),

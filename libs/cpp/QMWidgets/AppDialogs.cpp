@@ -41,7 +41,9 @@ void App::slotHelp()
     // help stays, since its numbers count on from one dialog to the next.
     m_helpDialog->setParent(dialogParent(), m_helpDialog->windowFlags());
     m_helpDialog->exec();
-    if (m_helpDialog) {
+    // One that still shows was left by the end of the program. It counts as modal no more, so Qt
+    // would block the other windows for ever if it were hidden now, as a change of parent does.
+    if (m_helpDialog && !m_helpDialog->isVisible()) {
         m_helpDialog->setParent(nullptr, m_helpDialog->windowFlags());
     }
 }

@@ -89,6 +89,11 @@ void MainPage::slotFilesDropped(const QList<QUrl>& urls)
     if (!urls.isEmpty()) {
         m_creator->setFiles(urls);
     }
+    // What one does next: open photos, or add an operation to them.
+    const auto* const panel = urls.isEmpty() ? static_cast<QWidget*>(m_creator) : m_flowPanel;
+    const auto name =
+        urls.isEmpty() ? QStringLiteral("PushButton") : QStringLiteral("PushButtonAdd");
+    panel->findChild<QPushButton*>(name)->setFocus(Qt::OtherFocusReason);
     show();
     QMWidgets::App* const app = QMWidgets::App::app();
     app->showHelpIfDue();

@@ -226,10 +226,13 @@ private slots:
     void arrowsStepThroughThePhotos()
     {
         MainPage page(nullptr);
+        auto* const square = page.findChild<CreatorDropArea*>();
+        page.slotFilesDropped({});
+        QCOMPARE(page.focusWidget(), square->findChild<QWidget*>(QStringLiteral("PushButton")));
         page.slotFilesDropped({QUrl::fromLocalFile(QStringLiteral("/no/first.png")),
                                QUrl::fromLocalFile(QStringLiteral("/no/second.png")),
                                QUrl::fromLocalFile(QStringLiteral("/no/third.png"))});
-        auto* const square = page.findChild<CreatorDropArea*>();
+        QCOMPARE(page.focusWidget(), page.findChild<QWidget*>(QStringLiteral("PushButtonAdd")));
         auto* const options = page.findChild<NodesOptionsPanel*>();
         QSignalSpy runs(options, &NodesOptionsPanel::imageChanged);
         const struct {

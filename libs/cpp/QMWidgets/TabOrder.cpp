@@ -1,5 +1,6 @@
 #include "TabOrder.h"
 
+#include <QHash>
 #include <QLayout>
 #include <QList>
 #include <QWidget>
@@ -30,7 +31,7 @@ void addStops(QLayout* layout, Stops& stops, QList<QObject*>& seen)
 /// A control without a layout of its own keeps its parts to itself.
 void addStops(QWidget* widget, Stops& stops)
 {
-    if (widget->focusPolicy() & Qt::TabFocus && !widget->focusProxy()) {
+    if (widget->focusPolicy() & Qt::TabFocus || widget->focusProxy()) {
         stops += widget;
     }
     if (!widget->layout()) {
@@ -54,6 +55,15 @@ void tabAsLaidOut(QWidget* widget)
 {
     Stops stops;
     addStops(widget, stops);
+    // Tab goes to a control's proxy by way of the control, so that has to be in order too. With its
+    // proxy in place, it would take along whatever stands between the two.
+    QHash<QWidget*, QWidget*> proxies;
+    for (QWidget* const stop : qAsConst(stops)) {
+        if (QWidget* const proxy = stop->focusProxy()) {
+            proxies.insert(stop, proxy);
+            stop->setFocusProxy(nullptr);
+        }
+    }
     for (int i = 1; i < stops.size(); ++i) {
         QWidget::setTabOrder(stops.at(i - 1), stops.at(i));
     }
@@ -62,6 +72,9 @@ void tabAsLaidOut(QWidget* widget)
     if (stops.size() > 2) {
         QWidget::setTabOrder(stops.first(), stops.last());
         QWidget::setTabOrder(stops.at(stops.size() - 2), stops.last());
+    }
+    for (auto each = proxies.cbegin(); each != proxies.cend(); ++each) {
+        each.key()->setFocusProxy(each.value());
     }
 }
 

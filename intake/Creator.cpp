@@ -59,7 +59,7 @@ void Creator::setFiles(const QList<QUrl>& urls)
 
 void Creator::slotDropped(bool)
 {
-    QImage image(m_dropArea->currentFile());
+    QImage image = m_dropArea->takePhoto();
     image.setDevicePixelRatio(1.0);
     m_optionsPanel->setImage(std::move(image));
     emit realPreview();

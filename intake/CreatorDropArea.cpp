@@ -70,11 +70,18 @@ void CreatorDropArea::setFiles(const QList<QUrl>& urls)
     m_currentFile = m_urls.first().toLocalFile();
     m_openButton->hide();
     setFocusPolicy(Qt::TabFocus);
-    loadPixmap();
+    m_photo = loadPixmap();
     setText(QString());
     emit dropped(true);
     updateCounter();
     emit updateItems(m_urls);
+}
+
+QImage CreatorDropArea::takePhoto()
+{
+    QImage photo = m_photo ? std::move(*m_photo) : QImage(m_currentFile);
+    m_photo.reset();
+    return photo;
 }
 
 void CreatorDropArea::slotStateChanged(const QString&)
@@ -133,6 +140,8 @@ void CreatorDropArea::stepTo(int index)
     goTo(index);
     if (runsFlow) {
         emit dropped(true);
+    } else {
+        m_photo.reset();
     }
     emit indexChanged(m_currentIndex);
 }
@@ -142,14 +151,21 @@ void CreatorDropArea::goTo(int index)
     m_currentIndex = index;
     m_currentFile = m_urls.at(index).toLocalFile();
     updateCounter();
-    loadPixmap();
+    m_photo = loadPixmap();
 }
 
-void CreatorDropArea::loadPixmap()
+/// Gives what it has read: nothing behind the strip, where nobody sees it.
+std::optional<QImage> CreatorDropArea::loadPixmap()
 {
+    m_isPixmapOld = isHidden();
+    if (m_isPixmapOld) {
+        return std::nullopt;
+    }
+    QImage photo(m_currentFile);
     // Twice the widget's size stays sharp on dense screens.
-    setPixmap(
-        QPixmap(m_currentFile).scaled(size() * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    setPixmap(QPixmap::fromImage(photo).scaled(size() * 2, Qt::KeepAspectRatio,
+                                               Qt::SmoothTransformation));
+    return photo;
 }
 
 void CreatorDropArea::updateCounter()
@@ -169,6 +185,14 @@ void CreatorDropArea::setControlsVisible(bool visible)
     m_nextButton->setVisible(visible);
     m_previousButton->setVisible(visible);
     m_counterLabel->setVisible(visible);
+}
+
+void CreatorDropArea::showEvent(QShowEvent* event)
+{
+    if (m_isPixmapOld) {
+        loadPixmap(); // the flow has the photo already
+    }
+    Label::showEvent(event);
 }
 
 void CreatorDropArea::enterEvent(QEvent* event)

@@ -2,9 +2,12 @@
 
 #include <QMWidgets/Label.h>
 
+#include <QImage>
 #include <QList>
 #include <QString>
 #include <QUrl>
+
+#include <optional>
 
 class NodesOptionsPanel;
 class QPushButton;
@@ -32,6 +35,9 @@ public:
     /// Local path of the current photo; empty until photos arrive, and for a URL that is no local
     /// file.
     QString currentFile() const { return m_currentFile; }
+    /// The current photo at full size, null if it can't be read. To be called once for each
+    /// dropped(): what the square has read for itself is given away, anything else is read anew.
+    QImage takePhoto();
 
 signals:
     /// The current photo is to be taken through the flow. The argument is always true.
@@ -48,6 +54,7 @@ public slots:
     void slotItemClicked(int index);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void enterEvent(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -60,11 +67,13 @@ private:
     void handleKey(QKeyEvent* event);
     void stepTo(int index);
     void goTo(int index);
-    void loadPixmap();
+    std::optional<QImage> loadPixmap();
     void updateCounter();
     void setControlsVisible(bool visible);
 
     QString m_currentFile;
+    std::optional<QImage> m_photo; ///< read, but not taken yet
+    bool m_isPixmapOld = false;
     NodesOptionsPanel* m_optionsPanel;
     QList<QUrl> m_urls;
     int m_currentIndex = 0;

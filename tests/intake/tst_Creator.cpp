@@ -4,11 +4,15 @@
 #include "intake/CreatorDropArea.h"
 #include "intake/ListView.h"
 #include "support/DropEvents.h"
+#include "support/ImageCompare.h"
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
 #include <functional>
+#include <QBuffer>
+#include <QFile>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QTimer>
 #include <utility>
@@ -41,6 +45,18 @@ private:
     QList<int> m_widths;
 };
 
+/// A JPEG file whose camera was held upright.
+QByteArray turnedJpeg()
+{
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    noise(QSize(50, 30), 1).save(&buffer, "JPEG");
+    return jpeg.insert(2, QByteArray::fromHex("ffe10022457869660000" // APP1, Exif
+                                              "4d4d002a000000080001" // one entry
+                                              "0112000300000001000600000000"
+                                              "0000"));
+}
+
 class TestCreator : public QObject
 {
     Q_OBJECT
@@ -60,6 +76,60 @@ private slots:
         panel.showStrip();
         QCOMPARE(panel.widths(), QList<int>());
         QCOMPARE(panel.view()->currentIndex().row(), 1);
+    }
+
+    void squareAndFlowGetWhatIsInTheFile()
+    {
+        SourcePanel panel;
+        Photos& photos = panel.photos;
+        const QImage clear = noise(QSize(400, 300), 1);
+        const QImage opaque = noise(QSize(1000, 300), 1, QImage::Format_ARGB32, true);
+        const auto add = [&photos](const char* name, const QImage& image, QImage::Format format) {
+            return photos.add(QLatin1String(name), image.convertToFormat(format));
+        };
+        QFile animated(QStringLiteral(":/arrow.gif"));
+        QVERIFY(animated.open(QIODevice::ReadOnly));
+        QList<QUrl> files = {add("clear.png", clear, QImage::Format_ARGB32),
+                             add("twice@2x.png", clear, QImage::Format_ARGB32),
+                             add("thrice@3x.jpg", opaque, QImage::Format_RGB32),
+                             add("opaque.png", opaque, QImage::Format_ARGB32),
+                             add("rgb.bmp", opaque, QImage::Format_RGB32),
+                             add("fits.png", opaque.copy(0, 0, 720, 300), QImage::Format_RGB32),
+                             add("palette.png", opaque, QImage::Format_Indexed8),
+                             add("clear palette.png", clear, QImage::Format_Indexed8),
+                             add("bits.png", opaque, QImage::Format_Mono),
+                             add("grey.png", opaque, QImage::Format_Grayscale8),
+                             add("grey.jpg", opaque, QImage::Format_Grayscale8),
+                             add("deep grey.png", opaque, QImage::Format_Grayscale16),
+                             add("deep.png", opaque, QImage::Format_RGBX64),
+                             add("deep clear.png", clear, QImage::Format_RGBA64),
+                             add("line.png", opaque.copy(0, 0, 1000, 1), QImage::Format_RGB32),
+                             photos.addFile(QStringLiteral("turned.jpg"), turnedJpeg()),
+                             photos.addFile(QStringLiteral("animated.gif"), animated.readAll()),
+                             photos.addFile(QStringLiteral("cut.jpg"), turnedJpeg().left(900)),
+                             photos.addFile(QStringLiteral("none.png"), "no picture"),
+                             photos.addFolder(QStringLiteral("folder")),
+                             QUrl::fromLocalFile(photos.path(QStringLiteral("missing.png")))};
+        auto* const square = panel.creator.findChild<CreatorDropArea*>();
+        QImage source;
+        connect(&panel.options, &NodesOptionsPanel::imageChanged, square,
+                [&source](const QImage& image) { source = image; });
+        CommonData::instance()->setPreviewMode(false);
+        const auto atEnd = qScopeGuard([] { CommonData::instance()->setPreviewMode(true); });
+        panel.creator.setFiles(files);
+        for (const QUrl& file : qAsConst(files)) {
+            const QString path = file.toLocalFile();
+            QImage image(path);
+            image.setDevicePixelRatio(1.0);
+            COMPARE_IMAGES(source, image.convertToFormat(QImage::Format_ARGB32));
+            const QPixmap pixmap(path);
+            const QPixmap reduced = pixmap.isNull() ? pixmap
+                                                    : pixmap.scaled(720, 720, Qt::KeepAspectRatio,
+                                                                    Qt::SmoothTransformation);
+            COMPARE_IMAGES(square->pixmap().toImage(), reduced.toImage());
+            QCOMPARE(square->pixmap().devicePixelRatio(), reduced.devicePixelRatio());
+            panel.creator.slotNext();
+        }
     }
 
     void stepsRunTheFlowOnceWithTheStripShown()

@@ -4,6 +4,7 @@
 #include "support/Photos.h"
 #include "support/TestMain.h"
 
+#include <QFile>
 #include <QSignalSpy>
 
 class TestCreatorDropArea : public QObject
@@ -73,6 +74,41 @@ private slots:
             area.slotItemClicked(row);
             QCOMPARE(data->currentIndex(), 2);
         }
+    }
+
+    void aPhotoIsReadOnceForSquareAndFlow()
+    {
+        Photos photos;
+        const QString name = QStringLiteral("a.png");
+        CreatorDropArea area(nullptr, nullptr);
+        area.show();
+        area.setFiles({photos.add(name)});
+        QVERIFY(QFile::remove(photos.path(name)));
+        QVERIFY(!area.takePhoto().isNull());
+        QVERIFY(area.takePhoto().isNull());
+
+        const auto change = [&photos, &name](QRgb color) {
+            QImage image(60, 40, QImage::Format_RGB32);
+            image.fill(color);
+            photos.add(name, image);
+        };
+        const auto shown = [&area] {
+            return area.pixmap().toImage().pixel(0, 0);
+        };
+        const QRgb colors[] = {qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(7, 8, 9)};
+        // Files of one size and of nearly one time.
+        for (const QRgb color : {colors[0], colors[1]}) {
+            change(color);
+            area.slotNext();
+            QCOMPARE(area.takePhoto().pixel(0, 0), color);
+            QCOMPARE(shown(), color);
+        }
+        area.hide();
+        change(colors[2]);
+        area.slotNext();
+        QVERIFY2(shown() == colors[1], "nobody sees it");
+        area.show();
+        QCOMPARE(shown(), colors[2]);
     }
 };
 

@@ -1,9 +1,10 @@
 #include "flow/ComboSlider.h"
 
+#include "flow/ParameterSpinBox.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSlider>
-#include <QSpinBox>
 
 namespace
 {
@@ -14,7 +15,7 @@ ComboSlider::ComboSlider(const QString& caption, QWidget* parent)
     : QFrame(parent),
       m_label(new QLabel(caption, this)),
       m_slider(new QSlider(Qt::Horizontal, this)),
-      m_spinBox(new QSpinBox(this)),
+      m_spinBox(new ParameterSpinBox(this)),
       m_unitLabel(new QLabel(this))
 {
     m_label->setVisible(!caption.isEmpty());
@@ -82,11 +83,6 @@ void ComboSlider::setControlName(const QString& name)
 
 void ComboSlider::slotSpinValueChanged(int value)
 {
-    // Return in the spin box emits the value once more, changed or not.
-    if (value == m_value) {
-        return;
-    }
-    m_value = value;
     const bool wereBlocked = m_slider->blockSignals(true);
     m_slider->setValue(value);
     emit sliderMoved(value);

@@ -41,5 +41,4 @@ private:
     QSlider* m_slider;
     QSpinBox* m_spinBox;
     QLabel* m_unitLabel;
-    int m_value = 0; ///< emitted last; the spin box starts at 0
 };

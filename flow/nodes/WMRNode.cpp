@@ -3,6 +3,7 @@
 #include "flow/ComboSlider.h"
 #include "flow/DirectionsWidget.h"
 #include "flow/nodes/WatermarkRenderer.h"
+#include "flow/ParameterSpinBox.h"
 #include "flow/SliderParameter.h"
 #include <QMWidgets/ColorWidget.h>
 #include <QMWidgets/FileDialog.h>
@@ -20,7 +21,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 using QMWidgets::ColorWidget;
@@ -104,8 +104,8 @@ WMRNode::WMRNode(const QString& name, QWidget* parent)
       m_browseButton(new QPushButton),
       m_logoRow(tightRow({m_imageNameEdit, m_browseButton})),
       m_expandButton(new QPushButton),
-      m_xOffset(new QSpinBox),
-      m_yOffset(new QSpinBox),
+      m_xOffset(new ParameterSpinBox(this)),
+      m_yOffset(new ParameterSpinBox(this)),
       m_offsetBox(new QGroupBox),
       m_settingsForm(new QFormLayout),
       m_positionRow(tightRow({m_position, m_offsetBox})),

@@ -119,7 +119,8 @@ void Stage::drop(const QStringList& paths, QWidget* target)
     for (const QString& path : paths) {
         urls.append(QUrl::fromLocalFile(path));
     }
-    check(dropUrls(target, urls), QStringLiteral("a drag of photos is accepted"));
+    const bool isTaken = dropUrls(target, urls) == Qt::CopyAction;
+    check(isTaken == !urls.isEmpty(), QStringLiteral("a drag of photos is accepted"));
 }
 
 void Stage::dropPhotos()

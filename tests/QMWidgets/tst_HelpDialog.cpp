@@ -98,6 +98,7 @@ private slots:
                             [&](QDialog* dialog) {
                                 help = dialog;
                                 QCOMPARE(help->parentWidget(), &work);
+                                QCOMPARE(help->focusWidget(), buttonOf(help, "&Close"));
                             });
         }
         QVERIFY(help);
@@ -108,6 +109,7 @@ private slots:
                         [&](QDialog* dialog) {
                             app->slotHelp();
                             QCOMPARE(dialog, help);
+                            QCOMPARE(help->focusWidget(), buttonOf(help, "&Close"));
                         });
     }
 };

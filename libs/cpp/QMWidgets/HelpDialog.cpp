@@ -19,14 +19,14 @@ const QString kNeverShowItAgain = QStringLiteral("NeverShowItAgain");
 HelpDialog::HelpDialog(QWidget* parent)
     : QDialog(parent),
       m_neverButton(new QPushButton(tr("&Never show on start"), this)),
-      m_viewArea(new HelpViewArea(this))
+      m_viewArea(new HelpViewArea(this)),
+      m_closeButton(new QPushButton(tr("&Close"), this))
 {
     setObjectName(QStringLiteral("Dialog"));
     setWindowTitle(QCoreApplication::applicationName() + tr(" Introduction"));
-    auto* closeButton = new QPushButton(tr("&Close"), this);
-    setupPushButton(closeButton);
+    setupPushButton(m_closeButton);
     setupPushButton(m_neverButton);
-    connect(closeButton, &QPushButton::clicked, this, &HelpDialog::slotReject);
+    connect(m_closeButton, &QPushButton::clicked, this, &HelpDialog::slotReject);
     connect(m_neverButton, &QPushButton::clicked, this, &HelpDialog::slotNeverShowItAgain);
 
     QBoxLayout* const buttons = makeButtonRow();
@@ -34,13 +34,12 @@ HelpDialog::HelpDialog(QWidget* parent)
     buttons->setSpacing(5);
     buttons->addStretch(1);
     buttons->addWidget(m_neverButton);
-    buttons->addWidget(closeButton);
+    buttons->addWidget(m_closeButton);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
     layout->addWidget(m_viewArea);
     layout->addLayout(buttons);
-    closeButton->setFocus();
 }
 
 void HelpDialog::addSlide(const QString& path)
@@ -68,6 +67,8 @@ void HelpDialog::showEvent(QShowEvent* event)
 {
     m_neverButton->setVisible(!isNeverShown());
     m_viewArea->slotStartSlideShow();
+    // Not once and for all: a dialog that gets another parent loses it.
+    m_closeButton->setFocus();
     QDialog::showEvent(event);
 }
 

@@ -35,6 +35,7 @@ protected:
 private:
     QPushButton* m_neverButton;
     HelpViewArea* m_viewArea;
+    QPushButton* m_closeButton;
 };
 
 } // namespace QMWidgets

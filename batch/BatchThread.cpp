@@ -1,6 +1,7 @@
 #include "batch/BatchThread.h"
 
 #include "batch/BatchWorker.h"
+#include "flow/RaceDetector.h"
 #include <MGraphX/HeapPolicy.h>
 
 #include <QTimer>
@@ -31,16 +32,14 @@ void BatchThread::leave()
         m_worker->requestStop();
         quit();
     } while (!wait(kStopPoll));
-    Q_ASSERT(m_left);
-    static_cast<void>(m_left.load());
+    RaceDetector::acquire(this);
 }
 
 void BatchThread::run()
 {
-    m_left = false;
     QTimer::singleShot(kStartDelay, m_worker, &BatchWorker::slotDoWork);
     exec();
     m_worker->endUnstartedRun();
     MGraphX::releaseHeap();
-    m_left = true;
+    RaceDetector::release(this);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <atomic>
 #include <QThread>
 
 class BatchWorker;
@@ -25,7 +24,4 @@ protected:
 
 private:
     BatchWorker* m_worker;
-    /// Says by the language's own means what the toolkit's locks say too: that all of a run lies
-    /// before what follows the waiting. Race detectors can't look into those locks.
-    std::atomic<bool> m_left{true};
 };

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "flow/HandOver.h"
+#include "flow/ResultFromPool.h"
 
 #include <QFrame>
 #include <QImage>
 #include <QString>
-#include <QtConcurrentRun>
 
 class QDomDocument;
 class QDomElement;
@@ -75,13 +74,7 @@ protected:
     template <class Filter> void runFilter(QImage& image, Filter filter)
     {
         if (isActive()) {
-            image = QtConcurrent::run([image, filter, handOver = HandOver()] {
-                        HandOver::take();
-                        QImage result = filter(image);
-                        HandOver::give();
-                        return result;
-                    }).result();
-            HandOver::take();
+            image = resultFromPool([image, filter] { return filter(image); });
         }
         reportPreview(image);
     }

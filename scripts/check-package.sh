@@ -28,6 +28,10 @@ needs Depends libqt5widgets5
 needs Depends qt5-image-formats-plugins
 needs Recommends kimageformat-plugins
 needs Section graphics
+dpkg-deb --fsys-tarfile "$package" |
+    tar -xO --wildcards '*/tessarin/Tessarin' >"$packages/Tessarin" ||
+    fail "there is no program in $(basename "$package")"
+scripts/check-hardening.sh "$packages/Tessarin"
 diff <(cd Resources && find . -type f ! -name .gitkeep | sort) \
     <(dpkg-deb -c "$package" | sed -n 's|.*[^/] \./usr/share/tessarin/Resources/\(.*[^/]\)$|./\1|p' |
         sort) || fail "the package's \"Resources\" are not the project's"

@@ -7,7 +7,7 @@ namespace QMWidgets
 class RepeatGate;
 }
 
-/// A list view that tells of each change of its current row by a signal. The current row, and no
+/// A list view that emits a signal at each change of its current row. The current row, and no
 /// other, is the selected one, also while handlers of that signal move it on.
 class ListView : public QListView
 {

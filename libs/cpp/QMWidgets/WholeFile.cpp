@@ -60,7 +60,7 @@ bool moveOver(const QString& from, const QString& to)
     return !error;
 }
 
-/// Waits until the disk has the file. Not every file system can tell, so failing is no error.
+/// Waits until the disk has the file. Not every file system can do that, so failing is no error.
 void syncToDisk(const QFileDevice& file)
 {
 #ifdef Q_OS_WIN
@@ -105,7 +105,7 @@ bool writeOrRemove(const QString& path, const FileWriter& write)
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    // A writer may not notice that the last buffered bytes find no room: only the flush tells.
+    // A writer may not notice that the last buffered bytes find no room; the flush fails then.
     if (write(file) && file.flush()) {
         return true;
     }

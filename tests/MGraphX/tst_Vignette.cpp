@@ -53,6 +53,28 @@ private slots:
         }
     }
 
+    void nothingIsPaintedBeyondThePaintersReach()
+    {
+        constexpr int kReach = 32767;
+        const QColor color(10, 120, 200);
+        // One is too long itself; in the others the last row or column is sampled from too far.
+        for (const QSize& size : {QSize(33800, 6), QSize(34000, 100), QSize(100, 34000)}) {
+            for (const auto format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied}) {
+                const QImage photo = randomImage(size, format, RandomAlpha::Opaque, 5);
+                const QImage result = MGraphX::vignetteImage(photo, 80, 90, color);
+                const auto isAsBefore = [&](const QRect& part) {
+                    return part.isEmpty() || result.copy(part) == photo.copy(part);
+                };
+                const QRect whole = photo.rect();
+                QVERIFY(isAsBefore(whole & whole.translated(kReach, 0)));
+                QVERIFY(isAsBefore(whole & whole.translated(0, kReach)));
+                QVERIFY(size.height() != 100 || isAsBefore(QRect(0, 99, size.width(), 1)));
+                QVERIFY(size.width() != 100 || isAsBefore(QRect(99, 0, 1, size.height())));
+                QVERIFY(!isAsBefore(QRect(0, 0, 5, 5)));
+            }
+        }
+    }
+
     void theLastColumnsAreConvertedOneByOne()
     {
         // Shows in words of the least alpha, on photos that are clear.

@@ -13,6 +13,8 @@ namespace
 
 /// The painter converts words in groups, and what is left at the end of a row one by one.
 constexpr int kGroup = 8;
+/// It leaves alone what lies beyond so many rows and columns of an image, the square as well.
+constexpr int kReach = 32767;
 
 /// Which of the `side` rows or columns of a square the painter takes for each of `length` ones when
 /// it squeezes the square into an image of `format`. Found by letting it squeeze a line whose words
@@ -102,6 +104,11 @@ std::vector<int> VignetteRows::order() const
 const uint32_t* VignetteRows::row(int y)
 {
     const int place = m_places[size_t(y)];
+    if (place >= kReach) {
+        m_filled = -1;
+        std::fill(m_row.begin(), m_row.end(), 0u);
+        return m_row.data();
+    }
     return m_rings && fillRings(place) ? m_row.data() : paintedRow(place);
 }
 
@@ -118,6 +125,9 @@ bool VignetteRows::fillRings(int place)
     for (size_t i = m_columns.size(); i > 0 && m_columns[i - 1] >= m_side - m_side % kGroup; --i) {
         m_row[i - 1] = last[m_columns[i - 1] - m_side];
     }
+    // Also the words that were written too much: a photo as wide goes on there.
+    const auto reached = std::lower_bound(m_columns.begin(), m_columns.end(), kReach);
+    std::fill(m_row.begin() + (reached - m_columns.begin()), m_row.end(), 0u);
     m_filled = place;
     return true;
 }

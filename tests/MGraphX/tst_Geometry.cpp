@@ -2,9 +2,14 @@
 #include "support/ImageCompare.h"
 #include "support/TestMain.h"
 
+#include <algorithm>
 #include <limits>
+#include <MGraphX/Geometry.h>
 #include <MGraphX/GraphX.h>
 #include <MGraphX/OpaqueScaling.h>
+#include <MGraphX/Tone.h>
+#include <utility>
+#include <vector>
 
 using MGraphX::GraphX;
 
@@ -23,6 +28,22 @@ private slots:
             QVERIFY(GraphX::crop(photo, 0, 0, extreme, 0).isNull());
             QVERIFY(GraphX::crop(photo, 0, 0, extreme, extreme).isNull());
             QVERIFY(GraphX::frame(photo, extreme, Qt::red).isNull());
+        }
+    }
+
+    void whatIsCroppedAwayIsLeftAlone()
+    {
+        for (const auto format : {QImage::Format_ARGB32, QImage::Format_ARGB32_Premultiplied,
+                                  QImage::Format_RGB32, QImage::Format_RGBA8888}) {
+            const QImage photo = randomImage({10, 6}, format, RandomAlpha::Opaque, 1);
+            std::vector<uchar> bytes(photo.constBits(), photo.constBits() + photo.sizeInBytes());
+            QImage part =
+                MGraphX::geometry::crop(QImage(bytes.data(), 10, 6, 40, format), 20, 0, 0, 0);
+            QVERIFY(!MGraphX::tone::invert(std::move(part)).isNull());
+            for (int y = 0; y < photo.height(); ++y) {
+                QVERIFY(
+                    std::equal(photo.constScanLine(y), photo.constScanLine(y) + 8, &bytes[40 * y]));
+            }
         }
     }
 

@@ -101,7 +101,11 @@ QImage invert(QImage image)
     if (image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_RGB32) {
         return mapped(std::move(image), kernels::invertRow);
     }
-    // The toolkit goes by way of plain colours here and back; only it knows how it rounds.
+    // Qt inverts what lies between the rows of a crop, too, unless it converts the image.
+    if (image.format() != QImage::Format_ARGB32_Premultiplied) {
+        image = image.copy();
+    }
+    // Qt goes by way of plain colours here and back; only it knows how it rounds.
     image.invertPixels(QImage::InvertRgb);
     return image;
 }

@@ -27,6 +27,7 @@ private slots:
             QVERIFY(GraphX::crop(photo, 0, extreme, 0, 0).isNull());
             QVERIFY(GraphX::crop(photo, 0, 0, extreme, 0).isNull());
             QVERIFY(GraphX::crop(photo, 0, 0, extreme, extreme).isNull());
+            QVERIFY(GraphX::crop(photo, 0, extreme, 0, extreme).isNull());
             QVERIFY(GraphX::frame(photo, extreme, Qt::red).isNull());
         }
     }

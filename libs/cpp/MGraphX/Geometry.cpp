@@ -55,7 +55,7 @@ QImage newTurnedImage(const QImage& source)
     return result;
 }
 
-/// The unused byte of RGB32 is 255 in what the toolkit's setPixel stores, whatever was read.
+/// The unused byte of RGB32 is 255 in what Qt's setPixel stores, whatever was read.
 QImage asStored(QImage image)
 {
     if (image.format() == QImage::Format_RGB32) {
@@ -152,8 +152,10 @@ QImage crop(QImage image, int left, int right, int top, int bottom)
         return QImage();
     }
     // A small part goes into memory of its own, or it would hold on to all of the photo's.
-    const bool isMost = 2 * window.width * window.height >= width * height;
-    if (isMost && source.isDetached() && window.liesIn(source)) {
+    const auto isMost = [&] {
+        return 2 * window.width * window.height >= width * height;
+    };
+    if (source.isDetached() && window.liesIn(source) && isMost()) {
         const QRect part(int(window.left), int(window.top), int(window.width), int(window.height));
         const QImage::Format format = source.format();
         return asStored(takenOver(std::move(source), part, format));

@@ -124,19 +124,6 @@ bool canBeAllocated(const QSize& size)
            qint64(size.width()) * size.height() <= kMostPixels;
 }
 
-/// The part of a mark's `box` to draw so that what shows of it on the photo is as in the whole box.
-/// The painter rounds an image of one pixel in another way than larger ones: such a part gets a
-/// neighbour, which a box has as it is at least as wide as both margins.
-QRect partToDraw(const QRect& box, const QRect& photo)
-{
-    const QRect visible = box & photo;
-    if (visible.size() != QSize(1, 1)) {
-        return visible;
-    }
-    const bool hasNext = visible.right() < box.right();
-    return visible.adjusted(hasNext ? 0 : -1, 0, hasNext ? 1 : 0, 0);
-}
-
 /// Draws the part `part` of `box`, which the mark is scaled up to fill.
 void drawScaledUp(QPainter& painter, const QImage& mark, const QRect& box, const QRect& part)
 {
@@ -144,6 +131,7 @@ void drawScaledUp(QPainter& painter, const QImage& mark, const QRect& box, const
     MarkScaler scaler(mark, box.size(), part.translated(-box.topLeft()));
     for (int y = 0; y < part.height(); y += kBand) {
         const QImage band = scaler.rows(y, qMin(kBand, part.height() - y));
+        // At a point: into a rectangle, the painter rounds an image of one pixel in another way.
         painter.drawImage(part.topLeft() + QPoint(0, y), band);
     }
 }
@@ -160,13 +148,14 @@ QImage drawImage(QImage photo, const WMRParams& params)
     }
     const QSize size = sizeInPhoto(params.image.size(), photo.width(), params.size);
     const QRect box = markBox(photo.size(), size, params);
-    const QRect part = partToDraw(box, photo.rect());
-    if (part.isEmpty()) {
+    const QRect visible = box & photo.rect();
+    if (visible.isEmpty()) {
         return photo;
     }
     if (MarkScaler::canScale(params.image, box.size())) {
-        return painted(std::move(photo), params.transparency,
-                       [&](QPainter& painter) { drawScaledUp(painter, params.image, box, part); });
+        return painted(std::move(photo), params.transparency, [&](QPainter& painter) {
+            drawScaledUp(painter, params.image, box, visible);
+        });
     }
     if (!canBeAllocated(box.size())) {
         return photo;

@@ -131,6 +131,21 @@ private slots:
             prepare(5, JoinReminder, 5);
             QCOMPARE(parentOfReminder([] { App::app()->slotCallRateReminderInternal(); }), &work);
         }
+        // One that is closed already belongs to the window below it.
+        QWidget page;
+        App::app()->setMainWidget(&page);
+        QWidget other;
+        QDialog ownDialog(&other);
+        QDialog freeDialog;
+        for (QDialog* const closed : {&ownDialog, &freeDialog}) {
+            page.show();
+            other.show();
+            prepare(5, JoinReminder, 5);
+            QApplication::setActiveWindow(closed);
+            QWidget* const below = closed == &ownDialog ? &other : &page;
+            QCOMPARE(parentOfReminder([] { App::app()->slotCallRateReminderInternal(); }), below);
+        }
+        App::app()->setMainWidget(nullptr);
     }
 
     void breaksNothingOff()

@@ -68,7 +68,7 @@ template <class Call> void untilChecked(const Call& call)
     QVERIFY(QTest::qWaitFor([] { return !check().isRunning(); }, 60000));
 }
 
-/// What tells the dialogs that come out of a call and a check; they are closed at once.
+/// The kinds of dialogs that come out of a call and a check; they are closed at once.
 template <class Call> QStringList dialogsOf(const Call& call)
 {
     QStringList shown;
@@ -269,14 +269,14 @@ private slots:
 
     void theNewsWaitsForAnOpenList_data()
     {
-        QTest::addColumn<bool>("isToldByMenu");
+        QTest::addColumn<bool>("isAskedByMenu");
         QTest::newRow("unasked") << false;
         QTest::newRow("asked for in the meantime") << true;
     }
 
     void theNewsWaitsForAnOpenList()
     {
-        QFETCH(bool, isToldByMenu);
+        QFETCH(bool, isAskedByMenu);
         HttpServer server(kNewer);
         App* const app = App::app();
         askFrom({server.host()}, day(-9));
@@ -292,7 +292,7 @@ private slots:
         QCOMPARE(lastCheck(), day(-9));
         const auto close = [&] {
             list.hidePopup();
-            if (isToldByMenu) {
+            if (isAskedByMenu) {
                 app->slotCheckUpdate();
             }
         };

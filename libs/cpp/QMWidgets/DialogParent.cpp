@@ -1,7 +1,6 @@
 #include "DialogParent.h"
 
-#include <QApplication>
-#include <QWidget>
+#include "App.h"
 
 namespace QMWidgets
 {
@@ -9,10 +8,17 @@ namespace QMWidgets
 QWidget* dialogParent()
 {
     QWidget* window = QApplication::activeWindow();
+    if (!window) {
+        return nullptr;
+    }
     while (window && !window->isVisible()) {
         window = window->parentWidget();
     }
-    return window ? window->window() : nullptr;
+    if (window) {
+        return window->window();
+    }
+    QWidget* const mainWindow = App::app()->mainWidget();
+    return mainWindow && mainWindow->isVisible() ? mainWindow : nullptr;
 }
 
 } // namespace QMWidgets

@@ -5,8 +5,9 @@ class QWidget;
 namespace QMWidgets
 {
 
-/// The window that a dialog which opens by itself belongs to: the active one, or null. While one
-/// that was just closed still counts as active, it is the window that one belonged to.
+/// The parent of a dialog that opens by itself: the active window, or null if there is none. A
+/// window that closes as soon as it has opened can stay the active one for Qt. Then its parent
+/// stands in for it, or the main window if it has none.
 QWidget* dialogParent();
 
 } // namespace QMWidgets

@@ -35,8 +35,8 @@ public:
     /// Local path of the current photo; empty until photos arrive, and for a URL that is no local
     /// file.
     QString currentFile() const { return m_currentFile; }
-    /// The current photo at full size, null if it can't be read. To be called once for each
-    /// dropped(): what the square has read for itself is given away, anything else is read anew.
+    /// The current photo at full size, null if it can't be read. Call it once for each dropped():
+    /// the square gives away the image that it has read for itself. Without one it reads the file.
     QImage takePhoto();
 
 signals:

@@ -185,7 +185,7 @@ private slots:
                 QTest::keyClick(box.focusWidget(), Qt::Key_End);
                 return box.grab().toImage();
             };
-            // As wide as each other, so nothing but their looks tells them apart.
+            // Both digits have the same width, so the pictures differ only where they show.
             QVERIFY2(pictureOf(QLatin1Char('0')) != pictureOf(QLatin1Char('8')),
                      qPrintable(QString::number(text.size())));
         }

@@ -11,10 +11,11 @@ namespace MGraphX
 namespace
 {
 
-/// How far the painter's square of a distance can be off, in pixels. It starts anew each 2048
-/// columns, from a sum and a difference with a few roundings each, and adds to both at each column.
-/// Neither exceeds the square's area; the roundings of the difference count again at each column
-/// that follows. Twice the sum of all that.
+/// The largest error of the painter's square of a distance. Units: pixels squared. The painter
+/// computes a sum and a difference at the first of each 2048 columns, with a few roundings each,
+/// and adds to both at each column. Neither exceeds the square's area. The roundings of the
+/// difference count again at each column that follows. The result is twice the sum of all these
+/// errors.
 double tolerance(int side)
 {
     constexpr double kRounding = 1.0 / (1LL << 53);

@@ -10,7 +10,7 @@ namespace QMWidgets
 ///
 /// An event loop that runs inside an event, such as that of a dialog, starts at zero again: it
 /// delivers events until its caller is done with it. QCoreApplication::processEvents() goes on
-/// counting: whoever calls it is in the middle of something.
+/// counting, since its caller has not finished its own event.
 ///
 /// Thread: any; each has a count of its own.
 class EventNesting

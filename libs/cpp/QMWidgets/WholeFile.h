@@ -15,7 +15,7 @@ using FileWriter = std::function<bool(QFileDevice& file)>;
 /// Writes a whole file, in the place of a former one, which gives it its permissions. The file is
 /// whole at any moment: it is written beside its place, under a short name, and takes its own name
 /// at the end. A link stays, and what it leads to is replaced.
-/// Errors: false, and the former file, or none, as it was: a full disk leaves no half file. The
+/// Errors: false. The former file stays as it was, and a full disk leaves no half file. The
 /// writer isn't called if no file can be made there, or if the place is a device or may not be
 /// written to.
 /// Thread: any, one at a time in each folder.
